@@ -1,0 +1,38 @@
+#ifndef TESSALY_APP_PROGRAM_STATE_H_
+#define TESSALY_APP_PROGRAM_STATE_H_
+
+#include <QString>
+#include <cstdint>
+
+#include "catalogue/study_selection.h"
+#include "stats/subject_statistics.h"
+#include "store/options.h"
+#include "store/question_bank.h"
+
+namespace tessaly {
+
+// The stored study time of the selected section, as it was loaded.
+struct SectionTime {
+  QString Stored;         // whole seconds as decimal text; may be empty
+  bool Exceeded = false;  // the section's three hours are used up
+};
+
+// The record that all subsystems share. Made once by the program and handed by reference to
+// whoever needs it.
+struct ProgramState {
+  StudySelection Selection;
+  QString CurrentTableName;
+  std::int16_t TablePosition = 1;  // of the next table when going over all of them, 1 to 25
+  QString QuestionSubject;         // of the question on screen; empty when none is shown
+  Options ProgramOptions;
+  SubjectStatistics Subjects;
+  SectionTime Time;
+  BankPaths Paths;
+  QString ResearchLink;            // page of the last question that had one
+  bool Answered = false;           // the question on screen has been graded
+  bool TrueFalse = false;          // the question on screen is a True/False question
+};
+
+}  // namespace tessaly
+
+#endif  // TESSALY_APP_PROGRAM_STATE_H_

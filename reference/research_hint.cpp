@@ -1,0 +1,21 @@
+#include "reference/research_hint.h"
+
+#include "app/main_window_view.h"
+#include "app/program_state.h"
+
+using namespace Qt::StringLiterals;
+
+namespace tessaly {
+
+void LoadResearchHint(const ResearchReference& reference, ProgramState& state,
+                      MainWindowView& view) {
+  view.SetBoxText(Box::txtHintLink,
+                  reference.Hint.isEmpty() ? u"The research link for this question is not "
+                                             u"available in the current database release."_s
+                                           : reference.Hint);
+  if (!reference.Link.isEmpty()) {
+    state.ResearchLink = reference.Link;
+  }
+}
+
+}  // namespace tessaly

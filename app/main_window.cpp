@@ -261,6 +261,8 @@ void frmMain::ShowBox(Box box, bool visible) {
   WidgetOf(box)->setVisible(visible);
   if (box == Box::txtQuestion) {
     welcome_->setVisible(!visible);
+  } else if (box == Box::txtAnswer && visible) {
+    answer_->setFocus();
   }
 }
 
@@ -295,6 +297,8 @@ void frmMain::ShowAnswerButtons(bool trueFalse) {
 }
 
 void frmMain::HideAnswerButtons() {
+  // Otherwise the focus would wander on to whatever stands behind the buttons.
+  question_->setFocus();
   for (QPushButton* button : answerButtons_) {
     button->hide();
   }

@@ -53,6 +53,8 @@ void StudySelector::ResetStudySelection() {
   WriteSetting("Subject"_L1, selection.Subject);
   WriteSetting("QuestionType"_L1, QString::number(selection.QuestionType));
   WriteExamAndSection();
+  WriteSetting("Subject"_L1, selection.Subject);
+  WriteCaptions();
 }
 
 void StudySelector::SaveStudySelection() {
@@ -63,6 +65,7 @@ void StudySelector::SaveStudySelection() {
     WriteSetting("Subject"_L1, selection.Subject);
   } else {
     WriteExamAndSection();
+    WriteCaptions();
     state_.Time.Stored = settings_.Read(TimerSection(selection.Mode), TimerKey(selection), {});
   }
   WriteSetting("QuestionType"_L1, QString::number(selection.QuestionType));
@@ -95,6 +98,10 @@ void StudySelector::WriteExamAndSection() {
   const StudySelection& selection = state_.Selection;
   WriteSetting("Exam"_L1, QString::number(selection.Exam));
   WriteSetting("Section"_L1, QString::number(selection.Section));
+}
+
+void StudySelector::WriteCaptions() {
+  const StudySelection& selection = state_.Selection;
   WriteSetting("ExamString"_L1, selection.ExamString);
   WriteSetting("Year"_L1, selection.Year);
   WriteSetting("SectionString"_L1, selection.SectionString);

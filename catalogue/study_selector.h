@@ -40,6 +40,7 @@ class StudySelector {
  private:
   void WriteSetting(QLatin1StringView key, const QString& value);
   void WriteExamAndSection();
+  void WriteCaptions();
 
   ProgramState& state_;
   SettingsStore& settings_;

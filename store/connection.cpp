@@ -173,16 +173,14 @@ qlonglong Statement::ColumnNumber(int column) const {
 }
 
 Connection::Connection(const QString& path, const QString& password, Access access) : path_(path) {
-  int flags = SQLITE_OPEN_READWRITE;
   if (access == Access::OpenExisting) {
     RequireDatabaseFile(path);
-  } else {
-    flags |= SQLITE_OPEN_CREATE;
-    if (QFileInfo::exists(path)) {
-      throw RuntimeError(ErrorNumber::PermissionDenied, path);
-    }
+  } else if (QFileInfo::exists(path)) {
+    throw RuntimeError(ErrorNumber::PermissionDenied, path);
   }
-  const int result = sqlite3_open_v2(path.toUtf8().constData(), &database_, flags, nullptr);
+  // Without the right to create, a compacted copy could not be attached.
+  const int result = sqlite3_open_v2(path.toUtf8().constData(), &database_,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
   try {
     if (result != SQLITE_OK) {
       RaiseFailure(database_, result, path_);

@@ -1,0 +1,45 @@
+#ifndef TESSALY_TESTS_SUPPORT_SMALL_DISK_H_
+#define TESSALY_TESTS_SUPPORT_SMALL_DISK_H_
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <QTemporaryDir>
+
+namespace tessaly::test {
+
+// A volume of its own that can be full or read-only. Only root can mount one; only this process
+// sees it, and it is gone with it.
+class SmallDisk {
+ public:
+  explicit SmallDisk(int kibibytes);
+  SmallDisk(const SmallDisk&) = delete;
+  SmallDisk& operator=(const SmallDisk&) = delete;
+  ~SmallDisk();
+
+  [[nodiscard]] bool IsMounted() const { return mounted_; }
+  [[nodiscard]] QString Folder() const { return folder_.path(); }
+  [[nodiscard]] QString FilePath(const QString& name) const { return folder_.filePath(name); }
+
+  // Takes all the room that is left, and gives it back.
+  void Fill();
+  void Free();
+  void SetReadOnly(bool readOnly);
+
+ private:
+  [[nodiscard]] QString BallastPath() const;
+
+  QTemporaryDir folder_;
+  bool mounted_ = false;
+};
+
+// Ends a test that cannot do without the volume.
+#define SKIP_UNLESS_MOUNTED(disk)                                  \
+  if (!(disk).IsMounted()) {                                       \
+    GTEST_SKIP() << "only root can mount a volume for this test";  \
+  }                                                                \
+  static_assert(true, "a semicolon follows")
+
+}  // namespace tessaly::test
+
+#endif  // TESSALY_TESTS_SUPPORT_SMALL_DISK_H_

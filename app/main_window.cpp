@@ -113,6 +113,7 @@ void frmMain::AddMenuItems(QMenu* menu, std::span<const MenuItem> items) {
     action->setShortcut(QKeySequence(item.shortcut));
     // A command can be used once a handler is connected.
     action->setEnabled(false);
+    menuActions_[item.name] = action;
   }
 }
 
@@ -130,6 +131,7 @@ void frmMain::BuildToolbar() {
   for (const ToolButtonEntry& entry : kToolButtons) {
     auto* action =
         new QAction(QIcon(u":/pictures/"_s + entry.picture + u".png"_s), entry.caption, this);
+    toolActions_[static_cast<std::size_t>(entry.button)] = action;
     action->setObjectName(u"Toolbar1."_s + entry.key);
     action->setToolTip(entry.toolTip);
     action->setData(QString(entry.description.isEmpty() ? entry.caption : entry.description));
@@ -333,19 +335,13 @@ void frmMain::FitPanes() {
 
 void frmMain::EnableCommand(Command command, bool enabled) {
   const QLatin1StringView name = NameOf(command);
-  const bool hasHandler =
-      std::any_of(kHandlers.begin(), kHandlers.end(),
-                  [name](const CommandHandler& entry) { return entry.command == name; });
-  ActionOf(name)->setEnabled(enabled && hasHandler);
+  ActionOf(name)->setEnabled(enabled && HasHandler(name));
 }
 
 void frmMain::EnableToolButton(ToolButton button, bool enabled) {
-  const ToolButtonEntry& entry = kToolButtons[static_cast<std::size_t>(button)];
-  const QLatin1StringView name = CommandOfKey(entry.key);
-  const bool hasHandler =
-      std::any_of(kHandlers.begin(), kHandlers.end(),
-                  [name](const CommandHandler& handler) { return handler.command == name; });
-  findChild<QAction*>(u"Toolbar1."_s + entry.key)->setEnabled(enabled && hasHandler);
+  const auto index = static_cast<std::size_t>(button);
+  const QLatin1StringView command = CommandOfKey(kToolButtons[index].key);
+  toolActions_[index]->setEnabled(enabled && HasHandler(command));
 }
 
 void frmMain::SetPanelText(Panel panel, const QString& text) {
@@ -435,7 +431,13 @@ void frmMain::SaveWindowPlacement() {
   program_->Settings().SaveWindowPlacement(placement);
 }
 
-QAction* frmMain::ActionOf(QLatin1StringView name) const { return findChild<QAction*>(name); }
+bool frmMain::HasHandler(QLatin1StringView command) {
+  return std::any_of(kHandlers.begin(), kHandlers.end(), [command](const CommandHandler& entry) {
+    return entry.command == command;
+  });
+}
+
+QAction* frmMain::ActionOf(QLatin1StringView name) const { return menuActions_.at(name); }
 
 QWidget* frmMain::WidgetOf(Box box) const {
   switch (box) {

@@ -3,7 +3,7 @@
 
 #include <QMainWindow>
 #include <array>
-#include <functional>
+#include <map>
 #include <span>
 
 #include "app/error_boundary.h"
@@ -90,12 +90,15 @@ class frmMain : public QMainWindow, public MainWindowView {
 
   void RunCommand(const CommandHandler& handler);
   void SaveWindowPlacement();
+  [[nodiscard]] static bool HasHandler(QLatin1StringView command);
   [[nodiscard]] QAction* ActionOf(QLatin1StringView name) const;
   [[nodiscard]] QWidget* WidgetOf(Box box) const;
   [[nodiscard]] QSize ClientTwips() const;
 
   ErrorBoundary errors_;
   Program* program_ = nullptr;
+  std::map<QLatin1StringView, QAction*> menuActions_;  // by control name
+  std::array<QAction*, kToolButtonCount> toolActions_{};
   QWidget* client_;
   QWidget* coolBar_ = nullptr;
   QToolBar* toolbar_ = nullptr;

@@ -5,8 +5,8 @@
 
 namespace tessaly {
 
-// A picture from the program folder. The files hold two pixels to a device-independent one, so that
-// they stay sharp on dense screens. Raises 53 when the file is missing, 481 when it is no picture.
+// A picture from the program folder. On a dense screen the file of the same name with "@2x", two
+// pixels to a device-independent one, serves where it is there. Raises 53 when the file is missing, 481 when it is no picture.
 [[nodiscard]] QPixmap LoadPicture(const QString& programFolder, const QString& fileName);
 
 }  // namespace tessaly

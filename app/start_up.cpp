@@ -5,6 +5,7 @@
 #include "app/program.h"
 #include "app/splash.h"
 #include "platform/clock.h"
+#include "platform/memory.h"
 #include "store/runtime_error.h"
 
 using namespace Qt::StringLiterals;
@@ -15,7 +16,7 @@ namespace {
 
 constexpr int kSplashSeconds = 4;
 constexpr int kSecondsADay = 86400;
-constexpr int kPauseMilliseconds = 20;
+constexpr int kPauseMilliseconds = 100;
 
 // Past midnight the time of day starts over; the seconds since the start do not.
 int SecondsSinceStart(QTime start, QTime now) {
@@ -53,6 +54,7 @@ bool StartUp(Program& program, frmMain& mainWindow, Clock& clock, ErrorBoundary&
     mainWindow.Form_Load();
     program.Selector().RefreshStatus();
     mainWindow.show();
+    ReturnFreedMemory();
   });
 }
 

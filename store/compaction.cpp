@@ -24,13 +24,13 @@ Compaction::Compaction(Workspace& workspace, FileOperations& files, const BankPa
 
 void Compaction::CompactDatabases() {
   FinishInterrupted();
+  RequireBothFiles();
   const QDir workingFolder = QDir::current();
   const Copies copies{workingFolder.filePath(kQuestionsCopyName),
                       workingFolder.filePath(kAnswersCopyName)};
   files_.Remove(copies.questions);
   files_.Remove(copies.answers);
-  workspace_.CompactDatabase(paths_.QuestionsDbPath, copies.questions, paths_.DbConnect);
-  workspace_.CompactDatabase(paths_.AnswersDbPath, copies.answers, paths_.DbConnect);
+  WriteCopies(copies);
   WriteNote(copies);
   files_.Remove(paths_.QuestionsDbPath);
   files_.Remove(paths_.AnswersDbPath);
@@ -54,6 +54,14 @@ void Compaction::FinishInterrupted() {
   }
 }
 
+void Compaction::RequireBothFiles() const {
+  for (const QString& path : {paths_.QuestionsDbPath, paths_.AnswersDbPath}) {
+    if (!QFileInfo::exists(path)) {
+      throw RuntimeError(ErrorNumber::FileNotFound, path);
+    }
+  }
+}
+
 QString Compaction::NotePath() const { return QDir(paths_.ProgramFolder).filePath(kNoteName); }
 
 Compaction::Copies Compaction::InterruptedCopies() const {
@@ -66,6 +74,16 @@ Compaction::Copies Compaction::InterruptedCopies() const {
   }
   const QDir workingFolder = QDir::current();
   return {workingFolder.filePath(kQuestionsCopyName), workingFolder.filePath(kAnswersCopyName)};
+}
+
+void Compaction::WriteCopies(const Copies& copies) {
+  workspace_.CompactDatabase(paths_.QuestionsDbPath, copies.questions, paths_.DbConnect);
+  try {
+    workspace_.CompactDatabase(paths_.AnswersDbPath, copies.answers, paths_.DbConnect);
+  } catch (const RuntimeError&) {
+    files_.Remove(copies.questions);
+    throw;
+  }
 }
 
 void Compaction::WriteNote(const Copies& copies) {

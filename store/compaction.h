@@ -31,8 +31,12 @@ class Compaction {
     QString answers;
   };
 
+  // While a file is missing, what lies in a copy's place may be all that is left of it.
+  void RequireBothFiles() const;
   [[nodiscard]] QString NotePath() const;
   [[nodiscard]] Copies InterruptedCopies() const;
+  // Both or none.
+  void WriteCopies(const Copies& copies);
   void WriteNote(const Copies& copies);
   void RestoreFile(const QString& copy, const QString& place);
   [[nodiscard]] bool IsFinishedCopy(const QString& copy) const;

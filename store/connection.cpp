@@ -43,9 +43,27 @@ ErrorNumber NumberOf(int engineCode) {
   }
 }
 
-[[noreturn]] void RaiseFailure(sqlite3* database, int engineCode, const QString& path) {
+// The export of a copy reports every failure as a general error, with the true one's message.
+int TrueCode(int engineCode, const QString& message) {
+  if (engineCode == SQLITE_ERROR) {
+    for (const int code : {SQLITE_FULL, SQLITE_CORRUPT, SQLITE_NOMEM, SQLITE_NOTADB, SQLITE_IOERR,
+                           SQLITE_READONLY, SQLITE_CANTOPEN}) {
+      if (message == QString::fromUtf8(sqlite3_errstr(code))) {
+        return code;
+      }
+    }
+  }
+  return engineCode;
+}
+
+// To be made before the statement is reset, which would overwrite the engine's message.
+RuntimeError FailureOf(sqlite3* database, int engineCode, const QString& path) {
   const QString message = QString::fromUtf8(sqlite3_errmsg(database));
-  throw RuntimeError(NumberOf(engineCode), u"%1: %2"_s.arg(path, message));
+  return RuntimeError(NumberOf(TrueCode(engineCode, message)), u"%1: %2"_s.arg(path, message));
+}
+
+[[noreturn]] void RaiseFailure(sqlite3* database, int engineCode, const QString& path) {
+  throw FailureOf(database, engineCode, path);
 }
 
 // A page of an encrypted file is indistinguishable from noise: of its 1,024 bytes about 251
@@ -126,9 +144,7 @@ bool Statement::Next() {
     return true;
   }
   if (result != SQLITE_DONE) {
-    // The reset below would overwrite the message.
-    const RuntimeError failure(
-        NumberOf(result), u"%1: %2"_s.arg(path_, QString::fromUtf8(sqlite3_errmsg(database_))));
+    const RuntimeError failure = FailureOf(database_, result, path_);
     Reset();
     throw failure;
   }
@@ -220,9 +236,9 @@ bool Connection::IsIntact() {
 
 void Connection::Unlock(const QString& password) {
   const QByteArray key = password.toUtf8();
-  const int result = sqlite3_key(database_, key.constData(), static_cast<int>(key.size()));
-  if (result != SQLITE_OK) {
-    RaiseFailure(database_, result, path_);
+  // An empty password is the only one that is refused before the file is read.
+  if (sqlite3_key(database_, key.constData(), static_cast<int>(key.size())) != SQLITE_OK) {
+    throw RuntimeError(ErrorNumber::InvalidPassword, path_);
   }
   // Attached files, as compaction writes them, take the default instead of the statement.
   Execute(sql::KeyStretch(kKeyStretchRounds));

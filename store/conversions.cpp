@@ -27,6 +27,9 @@ double RoundHalfToEven(double value) {
 double ToNumber(const QString& text, const QString& what) {
   bool isNumber = false;
   const double value = text.trimmed().toDouble(&isNumber);
+  if (!isNumber && std::isinf(value)) {
+    throw RuntimeError(ErrorNumber::Overflow, u"%1 is %2"_s.arg(what, text));
+  }
   if (!isNumber || !std::isfinite(value)) {
     throw RuntimeError(ErrorNumber::TypeMismatch, u"%1 is \"%2\", not a number"_s.arg(what, text));
   }
@@ -54,6 +57,13 @@ std::int16_t ToInteger(const QString& text, const QString& what) {
   return ToWhole<std::int16_t>(ToNumber(text, what), what);
 }
 
+std::int16_t ToInteger(const QVariant& value, const QString& what) {
+  if (value.typeId() == QMetaType::QString || value.isNull()) {
+    return ToInteger(value.toString(), what);
+  }
+  return ToWhole<std::int16_t>(value.toDouble(), what);
+}
+
 std::int32_t ToLong(const QString& text, const QString& what) {
   return ToWhole<std::int32_t>(ToNumber(text, what), what);
 }
@@ -64,6 +74,11 @@ float ToSingle(const QString& text, const QString& what) {
     throw RuntimeError(ErrorNumber::Overflow, what);
   }
   return static_cast<float>(value);
+}
+
+QString SingleText(float value) {
+  constexpr int kDigits = 7;
+  return QString::number(static_cast<double>(value), 'g', kDigits);
 }
 
 std::int16_t RoundToInteger(double value) { return ToWhole<std::int16_t>(value, {}); }

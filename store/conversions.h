@@ -2,6 +2,7 @@
 #define TESSALY_STORE_CONVERSIONS_H_
 
 #include <QString>
+#include <QVariant>
 #include <cstdint>
 
 namespace tessaly {
@@ -11,8 +12,12 @@ namespace tessaly {
 // number outside the type's range error 6 Overflow; `what` names the value in the error's detail.
 [[nodiscard]] std::uint8_t ToByte(const QString& text, const QString& what);
 [[nodiscard]] std::int16_t ToInteger(const QString& text, const QString& what);
+// Of a database field: text, a number or Null, which is no number.
+[[nodiscard]] std::int16_t ToInteger(const QVariant& value, const QString& what);
 [[nodiscard]] std::int32_t ToLong(const QString& text, const QString& what);
 [[nodiscard]] float ToSingle(const QString& text, const QString& what);
+// The text of a single-precision number, as ToSingle reads it.
+[[nodiscard]] QString SingleText(float value);
 
 // Rounds half to even and checks the 16-bit range; error 6 Overflow outside it.
 [[nodiscard]] std::int16_t RoundToInteger(double value);

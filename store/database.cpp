@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <cstddef>
 #include <utility>
 
 #include "platform/file_operations.h"
@@ -35,11 +36,7 @@ void ExportCopy(Connection& source, const QString& target, const QString& passwo
 Database::Database(std::shared_ptr<Connection> connection) : connection_(std::move(connection)) {}
 
 Recordset Database::OpenTable(const QString& name) const {
-  Statement exists = connection_->Prepare(sql::kTableExists);
-  exists.Bind({name});
-  if (!exists.Next()) {
-    throw RuntimeError(ErrorNumber::TableNotFound, u"'%1' in %2"_s.arg(name, Path()));
-  }
+  RequireTable(name);
   return {connection_, name, {}, {}};
 }
 
@@ -49,6 +46,27 @@ Recordset Database::OpenRecordset(const QString& query) const {
     throw RuntimeError(ErrorNumber::SyntaxErrorInExpression, query);
   }
   return OpenTable(query.mid(kSelectAll.size()));
+}
+
+void Database::ReadRows(const QString& table, const QStringList& fields,
+                        const std::function<void(const std::vector<QVariant>&)>& read) const {
+  RequireTable(table);
+  Statement select = connection_->Prepare(sql::SelectFields(table, fields));
+  std::vector<QVariant> row(static_cast<std::size_t>(fields.size()));
+  while (select.Next()) {
+    for (std::size_t column = 0; column < row.size(); ++column) {
+      row[column] = select.Column(static_cast<int>(column));
+    }
+    read(row);
+  }
+}
+
+void Database::RequireTable(const QString& name) const {
+  Statement exists = connection_->Prepare(sql::kTableExists);
+  exists.Bind({name});
+  if (!exists.Next()) {
+    throw RuntimeError(ErrorNumber::TableNotFound, u"'%1' in %2"_s.arg(name, Path()));
+  }
 }
 
 const QString& Database::Path() const { return connection_->Path(); }

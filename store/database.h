@@ -2,8 +2,12 @@
 #define TESSALY_STORE_DATABASE_H_
 
 #include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "store/recordset.h"
 
@@ -21,6 +25,11 @@ class Database {
   // other text.
   [[nodiscard]] Recordset OpenRecordset(const QString& query) const;
 
+  // Hands some fields of every row, in stored order, to `read`. What a recordset can do as well, in
+  // a fraction of its time, for work that reads a whole table and changes nothing. Raises 3078.
+  void ReadRows(const QString& table, const QStringList& fields,
+                const std::function<void(const std::vector<QVariant>&)>& read) const;
+
   [[nodiscard]] const QString& Path() const;
   [[nodiscard]] bool IsIntact() const;
 
@@ -28,6 +37,7 @@ class Database {
   friend class Workspace;
   friend class Transaction;
   explicit Database(std::shared_ptr<Connection> connection);
+  void RequireTable(const QString& name) const;
 
   std::shared_ptr<Connection> connection_;
 };

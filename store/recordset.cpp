@@ -103,13 +103,7 @@ QVariant Recordset::Value(const QString& field) {
 
 QString Recordset::Text(const QString& field) { return Value(field).toString(); }
 
-std::int16_t Recordset::Integer(const QString& field) {
-  const QVariant value = Value(field);
-  if (value.typeId() == QMetaType::QString || value.isNull()) {
-    return ToInteger(value.toString(), field);
-  }
-  return RoundToInteger(value.toDouble());
-}
+std::int16_t Recordset::Integer(const QString& field) { return ToInteger(Value(field), field); }
 
 void Recordset::Edit() {
   LoadRow();
@@ -121,6 +115,12 @@ void Recordset::SetValue(const QString& field, const QVariant& value) {
     throw RuntimeError(ErrorNumber::UpdateWithoutEdit, field);
   }
   static_cast<void>(FieldIndex(field));
+  for (auto& [name, edited] : *edits_) {
+    if (name == field) {
+      edited = value;
+      return;
+    }
+  }
   edits_->emplace_back(field, value);
 }
 

@@ -15,6 +15,7 @@ struct ErrorEntry {
 };
 
 constexpr std::array kErrors{
+    ErrorEntry{ErrorNumber::InvalidProcedureCall, "Invalid procedure call or argument"_L1},
     ErrorEntry{ErrorNumber::Overflow, "Overflow"_L1},
     ErrorEntry{ErrorNumber::SubscriptOutOfRange, "Subscript out of range"_L1},
     ErrorEntry{ErrorNumber::TypeMismatch, "Type mismatch"_L1},
@@ -22,6 +23,7 @@ constexpr std::array kErrors{
     ErrorEntry{ErrorNumber::DeviceIo, "Device I/O error"_L1},
     ErrorEntry{ErrorNumber::DiskFull, "Disk full"_L1},
     ErrorEntry{ErrorNumber::PermissionDenied, "Permission denied"_L1},
+    ErrorEntry{ErrorNumber::DiskNotReady, "Disk not ready"_L1},
     ErrorEntry{ErrorNumber::InvalidFileFormat, "Invalid file format"_L1},
     ErrorEntry{ErrorNumber::InvalidPicture, "Invalid picture"_L1},
     ErrorEntry{ErrorNumber::Printer, "Printer error"_L1},

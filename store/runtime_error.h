@@ -9,6 +9,7 @@ namespace tessaly {
 // The failures that the program can meet, by the numbers that database programmers of this
 // platform know them under.
 enum class ErrorNumber : int {
+  InvalidProcedureCall = 5,
   Overflow = 6,
   SubscriptOutOfRange = 9,
   TypeMismatch = 13,
@@ -16,6 +17,7 @@ enum class ErrorNumber : int {
   DeviceIo = 57,
   DiskFull = 61,
   PermissionDenied = 70,
+  DiskNotReady = 71,
   InvalidFileFormat = 321,
   InvalidPicture = 481,
   Printer = 482,

@@ -16,8 +16,19 @@ namespace {
 
 QString Address(const QString& section, const QString& key) { return section + u'/' + key; }
 
-// The settings library replaces the file by a new one, and on a full disk reports success for a new
-// one that holds nothing. So that no setting is lost, it is kept from trying.
+// The settings library keeps a change that it could not write, tries again when it is closed, and
+// never takes back that it failed. So both checks come before it is told of a change.
+
+void RequireWritable(const QString& path) {
+  const QFileInfo file(path);
+  const QString folder = file.absolutePath();
+  if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable() ||
+      (file.exists() && !file.isWritable())) {
+    throw RuntimeError(ErrorNumber::PermissionDenied, path);
+  }
+}
+
+// On a full disk the library reports success for a new file that holds nothing.
 void RequireRoomFor(const QString& path) {
   const QFileInfo file(path);
   const QStorageInfo volume(file.absolutePath());
@@ -30,6 +41,9 @@ void RequireRoomFor(const QString& path) {
 }  // namespace
 
 IniSettingsStore::IniSettingsStore(const QString& path) : settings_(path, QSettings::IniFormat) {
+  // The library looks into a section when it is first asked for one of its keys, and only then
+  // finds what is wrong with it.
+  static_cast<void>(settings_.allKeys());
   if (settings_.status() == QSettings::FormatError) {
     throw RuntimeError(ErrorNumber::InvalidFileFormat, path);
   }
@@ -48,28 +62,15 @@ QString IniSettingsStore::Read(const QString& section, const QString& key,
 
 void IniSettingsStore::Write(const QString& section, const QString& key, const QString& value) {
   const QString address = Address(section, key);
-  if (settings_.contains(address) && settings_.value(address) == QVariant(value)) {
-    return;
-  }
-  const QVariant before = settings_.value(address);
-  settings_.setValue(address, value);
-  try {
-    Store();
-  } catch (const RuntimeError&) {
-    if (before.isValid()) {
-      settings_.setValue(address, before);
-    } else {
-      settings_.remove(address);
-    }
-    throw;
+  if (!settings_.contains(address) || settings_.value(address) != QVariant(value)) {
+    Change(address, value);
   }
 }
 
 void IniSettingsStore::Delete(const QString& section, const QString& key) {
   const QString address = Address(section, key);
   if (settings_.contains(address)) {
-    settings_.remove(address);
-    Store();
+    Change(address, {});
   }
 }
 
@@ -78,17 +79,26 @@ QString IniSettingsStore::DefaultPath() {
       .filePath(kApplicationTitle + u".ini"_s);
 }
 
-void IniSettingsStore::Store() {
+void IniSettingsStore::Change(const QString& address, const QVariant& value) {
   const QString path = settings_.fileName();
-  if (!QDir().mkpath(QFileInfo(path).absolutePath())) {
-    throw RuntimeError(ErrorNumber::PermissionDenied, path);
-  }
+  RequireWritable(path);
   RequireRoomFor(path);
+  const QVariant before = settings_.value(address);
+  Put(address, value);
   settings_.sync();
   if (settings_.status() != QSettings::NoError) {
+    Put(address, before);
     throw RuntimeError(ErrorNumber::PermissionDenied, path);
   }
   FlushToDisk(path);
+}
+
+void IniSettingsStore::Put(const QString& address, const QVariant& value) {
+  if (value.isValid()) {
+    settings_.setValue(address, value);
+  } else {
+    settings_.remove(address);
+  }
 }
 
 }  // namespace tessaly

@@ -29,9 +29,9 @@ class SettingsStore {
   // The stored text, or `fallback` where there is none.
   [[nodiscard]] virtual QString Read(const QString& section, const QString& key,
                                      const QString& fallback) const = 0;
-  // Raises 61 or 70, and then leaves the stored settings as they were.
+  // Both raise 61 or 70, and then leave the stored settings as they were. Deleting a value that is
+  // not there is no failure.
   virtual void Write(const QString& section, const QString& key, const QString& value) = 0;
-  // Deleting a value that is not there is no failure.
   virtual void Delete(const QString& section, const QString& key) = 0;
 };
 
@@ -51,7 +51,9 @@ class IniSettingsStore : public SettingsStore {
   [[nodiscard]] static QString DefaultPath();
 
  private:
-  void Store();
+  // An invalid value deletes.
+  void Change(const QString& address, const QVariant& value);
+  void Put(const QString& address, const QVariant& value);
 
   QSettings settings_;
 };

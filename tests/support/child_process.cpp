@@ -55,7 +55,9 @@ ChildProcess::ChildProcess(const Work& work) {
   ::close(report[0]);
 }
 
-ChildProcess::~ChildProcess() { Kill(); }
+ChildProcess::~ChildProcess() {
+  Kill();
+}
 
 void ChildProcess::Kill() {
   if (pid_ > 0) {
@@ -78,6 +80,8 @@ QString AskShell(const QString& path, const QString& sql) {
                                  : shell.errorString();
 }
 
-bool IsShellInstalled() { return !QStandardPaths::findExecutable(kShell).isEmpty(); }
+bool IsShellInstalled() {
+  return !QStandardPaths::findExecutable(kShell).isEmpty();
+}
 
 }  // namespace tessaly::test

@@ -12,7 +12,7 @@ namespace tessaly::test {
 // crash would end it: no destructor runs. This process must not have the files open that the child
 // opens, because the engine would take the child's openings for its own.
 class ChildProcess {
- public:
+public:
   using Work = std::function<void(const std::function<void()>& standStill)>;
 
   explicit ChildProcess(const Work& work);
@@ -24,13 +24,13 @@ class ChildProcess {
   [[nodiscard]] bool StandsStill() const { return standsStill_; }
   void Kill();
 
- private:
+private:
   pid_t pid_ = -1;
   bool standsStill_ = false;
 };
 
-// What another program sees: runs a statement on a database file in the sqlcipher shell, opened with
-// the bank's password, and returns the output, errors included.
+// What another program sees: runs a statement on a database file in the sqlcipher shell, opened
+// with the bank's password, and returns the output, errors included.
 [[nodiscard]] QString AskShell(const QString& path, const QString& sql);
 [[nodiscard]] bool IsShellInstalled();
 

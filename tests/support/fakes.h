@@ -12,6 +12,7 @@
 #include "app/main_window_commands.h"
 #include "app/main_window_view.h"
 #include "platform/clock.h"
+#include "platform/drives.h"
 #include "platform/message_boxes.h"
 #include "store/settings_store.h"
 
@@ -43,6 +44,14 @@ class FakeClock : public Clock {
   void Sleep(int milliseconds) override { now = now.addMSecs(milliseconds); }
 
   QDateTime now{QDate(2001, 6, 15), QTime(10, 0)};
+};
+
+// Drives that come and go as a test says.
+class FakeDrives : public Drives {
+ public:
+  QList<Drive> Removable() const override { return removable; }
+
+  QList<Drive> removable;
 };
 
 // Answers every box at once and remembers it as "title|text".

@@ -37,7 +37,9 @@ void WriteBytes(const QString& path, const QByteArray& bytes) {
   EXPECT_EQ(file.write(bytes), bytes.size());
 }
 
-void Shrink(const QString& path, qint64 bytes) { EXPECT_TRUE(QFile::resize(path, bytes)); }
+void Shrink(const QString& path, qint64 bytes) {
+  EXPECT_TRUE(QFile::resize(path, bytes));
+}
 
 void FlipByte(const QString& path, qint64 position) {
   QByteArray bytes = ReadBytes(path);
@@ -46,8 +48,7 @@ void FlipByte(const QString& path, qint64 position) {
 }
 
 QStringList NamesIn(const QString& folder) {
-  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                                QDir::Name);
+  return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
 }
 
 QStringList DumpOf(Connection& connection) {

@@ -43,7 +43,8 @@ class ProgramTest : public ::testing::Test {
   FakeBoxes boxes;
   FakeView view;
   DiskFileOperations files;
-  Program program{{settings, clock, boxes, files}, bank.Folder(), view};
+  FakeDrives drives;
+  Program program{{settings, clock, boxes, files, drives}, bank.Folder(), view};
 };
 
 }  // namespace tessaly::test

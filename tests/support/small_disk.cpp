@@ -27,8 +27,13 @@ SmallDisk::SmallDisk(int kibibytes) {
 }
 
 SmallDisk::~SmallDisk() {
+  TakeOut();
+}
+
+void SmallDisk::TakeOut() {
   if (mounted_) {
     ::umount2(QFile::encodeName(Folder()).constData(), MNT_DETACH);
+    mounted_ = false;
   }
 }
 
@@ -43,13 +48,17 @@ void SmallDisk::Fill() {
   }
 }
 
-void SmallDisk::Free() { EXPECT_TRUE(QFile::remove(BallastPath())); }
+void SmallDisk::Free() {
+  EXPECT_TRUE(QFile::remove(BallastPath()));
+}
 
 void SmallDisk::SetReadOnly(bool readOnly) {
-  const unsigned long flags = MS_REMOUNT | (readOnly ? MS_RDONLY : 0UL);
+  const unsigned long flags = readOnly ? MS_REMOUNT | MS_RDONLY : MS_REMOUNT;
   EXPECT_EQ(::mount(nullptr, QFile::encodeName(Folder()).constData(), nullptr, flags, nullptr), 0);
 }
 
-QString SmallDisk::BallastPath() const { return FilePath(u"ballast"_s); }
+QString SmallDisk::BallastPath() const {
+  return FilePath(u"ballast"_s);
+}
 
 }  // namespace tessaly::test

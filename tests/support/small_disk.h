@@ -11,7 +11,7 @@ namespace tessaly::test {
 // A volume of its own that can be full or read-only. Only root can mount one; only this process
 // sees it, and it is gone with it.
 class SmallDisk {
- public:
+public:
   explicit SmallDisk(int kibibytes);
   SmallDisk(const SmallDisk&) = delete;
   SmallDisk& operator=(const SmallDisk&) = delete;
@@ -25,8 +25,10 @@ class SmallDisk {
   void Fill();
   void Free();
   void SetReadOnly(bool readOnly);
+  // Pulls the volume out with all that is on it: its folder stays, empty and on another volume.
+  void TakeOut();
 
- private:
+private:
   [[nodiscard]] QString BallastPath() const;
 
   QTemporaryDir folder_;
@@ -34,10 +36,10 @@ class SmallDisk {
 };
 
 // Ends a test that cannot do without the volume.
-#define SKIP_UNLESS_MOUNTED(disk)                                  \
-  if (!(disk).IsMounted()) {                                       \
-    GTEST_SKIP() << "only root can mount a volume for this test";  \
-  }                                                                \
+#define SKIP_UNLESS_MOUNTED(disk)                                 \
+  if (!(disk).IsMounted()) {                                      \
+    GTEST_SKIP() << "only root can mount a volume for this test"; \
+  }                                                               \
   static_assert(true, "a semicolon follows")
 
 }  // namespace tessaly::test

@@ -30,7 +30,7 @@ inline void CreateCards(const QString& path, int rows) {
 
 // One encrypted file of 100 cards in a temporary folder.
 class StoreTest : public ::testing::Test {
- protected:
+protected:
   StoreTest() { CreateCards(path, 100); }
 
   // On a connection of its own; the file must not be open elsewhere.

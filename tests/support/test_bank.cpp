@@ -10,7 +10,9 @@ namespace tessaly::test {
 
 namespace {
 
-QVariant OrNull(const std::optional<QString>& text) { return text ? QVariant(*text) : QVariant(); }
+QVariant OrNull(const std::optional<QString>& text) {
+  return text ? QVariant(*text) : QVariant();
+}
 
 void CreateTables(Connection& connection, const QString& fields) {
   for (const QLatin1StringView table : kTables) {
@@ -26,7 +28,8 @@ QVariant FirstValue(Connection& connection, const QString& sql) {
 
 }  // namespace
 
-TestBank::TestBank() {
+TestBank::TestBank(const QString& parentFolder)
+    : folder_(QDir(parentFolder).filePath(u"bank-XXXXXX"_s)) {
   paths_.ProgramFolder = folder_.path();
   BuildDatabasePaths(paths_);
   Connection questions(paths_.QuestionsDbPath, kPassword, Connection::Access::CreateNew);
@@ -42,8 +45,9 @@ TestBank::TestBank() {
   CreateTables(answers,
                u"QuestionNo INTEGER, TutorialMode TEXT, EvalMode TEXT, PassFail TEXT, "
                u"TimesAsked INTEGER, TimesCorrect INTEGER"_s);
-  answers.Execute(u"CREATE TABLE SubjectStats (Subject TEXT, TMAsked INTEGER, "
-                  u"TMCorrect INTEGER, EMAsked INTEGER, EMCorrect INTEGER)"_s);
+  answers.Execute(
+      u"CREATE TABLE SubjectStats (Subject TEXT, TMAsked INTEGER, "
+      u"TMCorrect INTEGER, EMAsked INTEGER, EMCorrect INTEGER)"_s);
   Statement insert = answers.Prepare(u"INSERT INTO SubjectStats VALUES (?, 0, 0, 0, 0)"_s);
   for (int i = 0; i < kSubjectCount; ++i) {
     insert.Bind({SubjectName(i)});
@@ -54,12 +58,12 @@ TestBank::TestBank() {
 
 void TestBank::AddQuestion(const QString& table, const TestQuestion& question,
                            const TestStatus& status) {
-  RunOnQuestions(u"INSERT INTO \"%1\" VALUES (?, ?, ?, ?, ?, ?, ?)"_s.arg(table),
-                 {QString::number(question.no), OrNull(question.question),
-                  OrNull(question.explanation), question.answerNumber,
-                  question.subject.isNull() ? QVariant() : question.subject,
-                  question.hint.isNull() ? QVariant() : question.hint,
-                  question.link.isNull() ? QVariant() : question.link});
+  RunOnQuestions(
+      u"INSERT INTO \"%1\" VALUES (?, ?, ?, ?, ?, ?, ?)"_s.arg(table),
+      {QString::number(question.no), OrNull(question.question), OrNull(question.explanation),
+       question.answerNumber, question.subject.isNull() ? QVariant() : question.subject,
+       question.hint.isNull() ? QVariant() : question.hint,
+       question.link.isNull() ? QVariant() : question.link});
   RunOnAnswers(u"INSERT INTO \"%1\" VALUES (?, ?, ?, ?, ?, ?)"_s.arg(table),
                {question.no, status.tutorialMode, status.evalMode, status.passFail,
                 status.timesAsked, status.timesCorrect});
@@ -101,16 +105,17 @@ bool TestBank::IsIntact() {
 }
 
 QString TestBank::StatusRow(const QString& table, int no) {
-  return ValueInAnswers(u"SELECT TutorialMode || ' ' || EvalMode || ' ' || PassFail || ' ' || "
-                        u"TimesAsked || ' ' || TimesCorrect FROM \"%1\" WHERE QuestionNo = %2"_s
-                            .arg(table)
-                            .arg(no))
+  return ValueInAnswers(
+             u"SELECT TutorialMode || ' ' || EvalMode || ' ' || PassFail || ' ' || "
+             u"TimesAsked || ' ' || TimesCorrect FROM \"%1\" WHERE QuestionNo = %2"_s.arg(table)
+                 .arg(no))
       .toString();
 }
 
 QString TestBank::SubjectRow(const QString& subject) {
-  return ValueInAnswers(u"SELECT TMAsked || ' ' || TMCorrect || ' ' || EMAsked || ' ' || "
-                        u"EMCorrect FROM SubjectStats WHERE Subject = '%1'"_s.arg(subject))
+  return ValueInAnswers(
+             u"SELECT TMAsked || ' ' || TMCorrect || ' ' || EMAsked || ' ' || "
+             u"EMCorrect FROM SubjectStats WHERE Subject = '%1'"_s.arg(subject))
       .toString();
 }
 

@@ -1,6 +1,7 @@
 #ifndef TESSALY_TESTS_SUPPORT_TEST_BANK_H_
 #define TESSALY_TESTS_SUPPORT_TEST_BANK_H_
 
+#include <QDir>
 #include <QString>
 #include <QTemporaryDir>
 #include <QVariant>
@@ -32,8 +33,9 @@ struct TestStatus {
 // Two real, encrypted database files in a temporary program folder: all 24 tables, empty until
 // questions are put in, and 87 subjects named "Subject 00" to "Subject 86".
 class TestBank {
- public:
-  TestBank();
+public:
+  // The program folder is made in `parentFolder`, the working folder on the system's volume.
+  explicit TestBank(const QString& parentFolder = QDir::tempPath());
 
   [[nodiscard]] const BankPaths& Paths() const { return paths_; }
   [[nodiscard]] QString Folder() const { return paths_.ProgramFolder; }
@@ -60,7 +62,7 @@ class TestBank {
 
   [[nodiscard]] static QString SubjectName(int index);
 
- private:
+private:
   QTemporaryDir folder_;
   QTemporaryDir workingFolder_;
   BankPaths paths_;

@@ -6,6 +6,7 @@
 #include "app/program.h"
 #include "app/start_up.h"
 #include "platform/clock.h"
+#include "platform/drives.h"
 #include "platform/file_operations.h"
 #include "platform/instance_lock.h"
 #include "platform/qt_message_boxes.h"
@@ -23,8 +24,9 @@ int RunProgram(tessaly::MessageBoxes& boxes, tessaly::ErrorBoundary& errors) {
     tessaly::IniSettingsStore settings(tessaly::IniSettingsStore::DefaultPath());
     tessaly::SystemClock clock;
     tessaly::DiskFileOperations files;
+    tessaly::SystemDrives drives;
     tessaly::frmMain mainWindow(boxes);
-    tessaly::Program program({settings, clock, boxes, files},
+    tessaly::Program program({settings, clock, boxes, files, drives},
                              QApplication::applicationDirPath(), mainWindow);
     mainWindow.Attach(program);
     if (tessaly::StartUp(program, mainWindow, clock, errors)) {

@@ -10,13 +10,12 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
-#include <algorithm>
 #include <cstddef>
 
-#include "app/about.h"
 #include "app/customize_toolbar.h"
 #include "app/elided_label.h"
 #include "app/pane_layout.h"
+#include "app/picture.h"
 #include "app/program.h"
 #include "app/study_text_box.h"
 #include "app/twips.h"
@@ -25,33 +24,16 @@
 
 using namespace Qt::StringLiterals;
 
-// Resources of a static library are registered by hand, outside any namespace.
-static void RegisterPictures() { Q_INIT_RESOURCE(pictures); }
-
 namespace tessaly {
-
-const std::span<const frmMain::CommandHandler> frmMain::kHandlers = [] {
-  static constexpr std::array kTable{
-      CommandHandler{"mnuFileBegin"_L1, "beginning a study session", &frmMain::mnuFileBegin_Click},
-      CommandHandler{"mnuFileNext"_L1, "going on to the next question",
-                     &frmMain::mnuFileNext_Click},
-      CommandHandler{"mnuFileClose"_L1, "ending the study session", &frmMain::mnuFileClose_Click},
-      CommandHandler{"mnuFileExit"_L1, "leaving the program", &frmMain::mnuFileExit_Click},
-      CommandHandler{"mnuOptionsNavBar"_L1, "customizing the navigation bar",
-                     &frmMain::mnuOptionsNavBar_Click},
-      CommandHandler{"mnuViewStatusBar"_L1, "showing or hiding the status bar",
-                     &frmMain::mnuViewStatusBar_Click},
-      CommandHandler{"mnuHelpAbout"_L1, "reading the release of the question data",
-                     &frmMain::mnuHelpAbout_Click},
-  };
-  return std::span<const CommandHandler>(kTable);
-}();
 
 frmMain::frmMain(MessageBoxes& boxes) : errors_(boxes), client_(new QWidget) {
   RegisterPictures();
   setObjectName(u"frmMain"_s);
   setWindowTitle(kApplicationTitle);
   setCentralWidget(client_);
+  // A stored width of nothing must leave a window that can be found and enlarged.
+  constexpr int kSmallestWidthTwips = 2040;
+  setMinimumWidth(ToPixels(kSmallestWidthTwips));
   client_->setObjectName(u"client"_s);
   client_->installEventFilter(this);
   BuildMenus();
@@ -359,6 +341,40 @@ void frmMain::StartTestTimer(int intervalMilliseconds) { testTimer_->start(inter
 
 void frmMain::StopTestTimer() { testTimer_->stop(); }
 
+float frmMain::Measure(WindowMeasure measure) const {
+  switch (measure) {
+    case WindowMeasure::Height:
+      return static_cast<float>(ToTwips(height()));
+    case WindowMeasure::Left:
+      return static_cast<float>(ToTwips(x()));
+    case WindowMeasure::Top:
+      return static_cast<float>(ToTwips(y()));
+    case WindowMeasure::Width:
+      break;
+  }
+  return static_cast<float>(ToTwips(width()));
+}
+
+void frmMain::SetMeasure(WindowMeasure measure, float twips) {
+  // A maximized window would not take a place of its own.
+  setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+  const int pixels = ToPixels(static_cast<double>(twips));
+  switch (measure) {
+    case WindowMeasure::Height:
+      resize(width(), pixels);
+      break;
+    case WindowMeasure::Left:
+      move(pixels, y());
+      break;
+    case WindowMeasure::Top:
+      move(x(), pixels);
+      break;
+    case WindowMeasure::Width:
+      resize(pixels, height());
+      break;
+  }
+}
+
 void frmMain::closeEvent(QCloseEvent* event) {
   if (!isMinimized()) {
     errors_.Run(u"saving the window's placement"_s, [this] { SaveWindowPlacement(); });
@@ -374,67 +390,14 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
   return QMainWindow::eventFilter(watched, event);
 }
 
-void frmMain::mnuFileBegin_Click() { program_->Session().BeginSession(); }
-
-void frmMain::mnuFileNext_Click() { program_->Session().NextQuestion(); }
-
-void frmMain::mnuFileClose_Click() { program_->Session().EndSession(); }
-
-void frmMain::mnuFileExit_Click() {
-  SaveWindowPlacement();
-  close();
-}
-
-void frmMain::mnuOptionsNavBar_Click() {
-  frmCustomize dialog(*toolbar_, DefaultArrangement(*this), this);
-  dialog.exec();
-  FitPanes();
-}
-
-void frmMain::mnuViewStatusBar_Click() {
-  statusBar_->setVisible(ActionOf("mnuViewStatusBar"_L1)->isChecked());
-}
-
-void frmMain::mnuHelpAbout_Click() {
-  frmAbout dialog(*program_, this);
-  dialog.exec();
-}
-
-void frmMain::cmdSkip_Click() {
-  errors_.Run(u"skipping the question"_s, [this] { program_->Session().Skip(); });
-}
-
-void frmMain::tmrTestTimer_Timer() {
-  errors_.Run(u"counting the study time"_s, [this] { program_->Session().TimerTick(); });
-}
-
-void frmMain::Toolbar1_ButtonClick(const QString& key) {
-  const QLatin1StringView command = CommandOfKey(key);
-  for (const CommandHandler& entry : kHandlers) {
-    if (entry.command == command) {
-      RunCommand(entry);
-    }
-  }
-}
-
-void frmMain::RunCommand(const CommandHandler& handler) {
-  errors_.Run(QString::fromLatin1(handler.doing), [this, &handler] { (this->*handler.handler)(); });
-}
-
 void frmMain::SaveWindowPlacement() {
   WindowPlacement placement;
   placement.Maximized = isMaximized();
-  placement.MainLeft = static_cast<float>(ToTwips(x()));
-  placement.MainTop = static_cast<float>(ToTwips(y()));
-  placement.MainWidth = static_cast<float>(ToTwips(width()));
-  placement.MainHeight = static_cast<float>(ToTwips(height()));
+  placement.MainLeft = Measure(WindowMeasure::Left);
+  placement.MainTop = Measure(WindowMeasure::Top);
+  placement.MainWidth = Measure(WindowMeasure::Width);
+  placement.MainHeight = Measure(WindowMeasure::Height);
   program_->Settings().SaveWindowPlacement(placement);
-}
-
-bool frmMain::HasHandler(QLatin1StringView command) {
-  return std::any_of(kHandlers.begin(), kHandlers.end(), [command](const CommandHandler& entry) {
-    return entry.command == command;
-  });
 }
 
 QAction* frmMain::ActionOf(QLatin1StringView name) const { return menuActions_.at(name); }

@@ -9,6 +9,7 @@
 #include "app/error_boundary.h"
 #include "app/main_window_commands.h"
 #include "app/main_window_view.h"
+#include "app/placed_window.h"
 #include "app/program_settings.h"
 
 class QLabel;
@@ -27,7 +28,7 @@ class WelcomePane;
 // The program's main window: navigation bar, question and explanation panes, answer buttons,
 // status bar and menus. It shows what the study logic tells it and hands every command on; which
 // commands can be used, and what they do, is decided there.
-class frmMain : public QMainWindow, public MainWindowView {
+class frmMain : public QMainWindow, public MainWindowView, public PlacedWindow {
   Q_OBJECT
 
  public:
@@ -52,6 +53,9 @@ class frmMain : public QMainWindow, public MainWindowView {
   void SetPanelToolTip(Panel panel, const QString& toolTip) override;
   void StartTestTimer(int intervalMilliseconds) override;
   void StopTestTimer() override;
+
+  [[nodiscard]] float Measure(WindowMeasure measure) const override;
+  void SetMeasure(WindowMeasure measure, float twips) override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -81,8 +85,15 @@ class frmMain : public QMainWindow, public MainWindowView {
   void mnuFileNext_Click();
   void mnuFileClose_Click();
   void mnuFileExit_Click();
+  void mnuViewExamChoices_Click();
+  void mnuViewOptions_Click();
   void mnuOptionsNavBar_Click();
+  void mnuOptionsTip_Click();
   void mnuViewStatusBar_Click();
+  void mnuFileExport_Click();
+  void mnuFileImport_Click();
+  void mnuViewStats_Click();
+  void mnuStatsReset_Click();
   void mnuHelpAbout_Click();
   void cmdSkip_Click();
   void tmrTestTimer_Timer();

@@ -9,6 +9,11 @@
 
 using namespace Qt::StringLiterals;
 
+// Resources of a static library are registered by hand, outside any namespace.
+static void InitPictures() {
+  Q_INIT_RESOURCE(pictures);
+}
+
 namespace tessaly {
 
 namespace {
@@ -39,6 +44,10 @@ QPixmap LoadPicture(const QString& programFolder, const QString& fileName) {
   QPixmap picture = QPixmap::fromImage(image);
   picture.setDevicePixelRatio(dense ? 2 : 1);
   return picture;
+}
+
+void RegisterPictures() {
+  InitPictures();
 }
 
 }  // namespace tessaly

@@ -9,7 +9,8 @@ using namespace Qt::StringLiterals;
 namespace tessaly {
 
 Program::Program(const Platform& platform, const QString& programFolder, MainWindowView& view)
-    : selector_(state_, platform.settings, workspace_, view),
+    : platform_(platform),
+      selector_(state_, platform.settings, workspace_, view),
       settings_(state_, platform.settings, selector_),
       compaction_(workspace_, platform.files, state_.Paths),
       session_(state_,

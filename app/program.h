@@ -12,6 +12,7 @@
 
 namespace tessaly {
 
+class Drives;
 class FileOperations;
 
 // What the program asks of the machine.
@@ -20,6 +21,7 @@ struct Platform {
   Clock& clock;
   MessageBoxes& boxes;
   FileOperations& files;
+  Drives& drives;
 };
 
 // The program without its windows: the shared state and everything that works on it.
@@ -34,6 +36,7 @@ class Program {
   // The state of panels and commands while the splash screen is up; safe to repeat.
   void ShowStartUpState();
 
+  [[nodiscard]] const Platform& Machine() const { return platform_; }
   [[nodiscard]] ProgramState& State() { return state_; }
   [[nodiscard]] Workspace& Bank() { return workspace_; }
   [[nodiscard]] ProgramSettings& Settings() { return settings_; }
@@ -41,6 +44,7 @@ class Program {
   [[nodiscard]] StudySession& Session() { return session_; }
 
  private:
+  Platform platform_;
   ProgramState state_;
   Workspace workspace_;
   StudySelector selector_;

@@ -15,8 +15,6 @@ namespace {
 
 QString Address(QLatin1StringView section, const QString& key) { return section + u'/' + key; }
 
-QString SingleText(float value) { return QString::number(static_cast<double>(value), 'g', 7); }
-
 }  // namespace
 
 ProgramSettings::ProgramSettings(ProgramState& state, SettingsStore& settings,
@@ -33,6 +31,20 @@ void ProgramSettings::LoadSettings() {
   LoadSectionTime();
   BuildDatabasePaths(state_.Paths);
   selector_.RefreshStatus();
+}
+
+void ProgramSettings::SaveOptions() {
+  const Options& options = state_.ProgramOptions;
+  WriteOption(u"TimerStatus"_s, QString::number(options.TimerStatus));
+  WriteOption(u"AlarmSetting"_s, QString::number(options.AlarmSetting));
+  WriteOption(u"GraphicStats"_s, QString::number(options.GraphicStats));
+  WriteOption(u"DisplaySmallFonts"_s, QString::number(options.DisplaySmallFonts));
+  WriteOption(u"TipofDay"_s, QString::number(options.TipofDay));
+  WriteOption(u"PubSource"_s, options.PubSource);
+  if (state_.ResetReminders) {
+    state_.ResetReminders = false;
+    WriteOption(u"Suppress2587Msg"_s, u"0"_s);
+  }
 }
 
 WindowPlacement ProgramSettings::LoadWindowPlacement() const {
@@ -70,6 +82,10 @@ void ProgramSettings::SaveWindowPlacement(const WindowPlacement& placement) {
 
 QString ProgramSettings::ReadOption(const QString& key) const {
   return settings_.Read(settings_section::kOptions, key, u"0"_s);
+}
+
+void ProgramSettings::WriteOption(const QString& key, const QString& value) {
+  settings_.Write(settings_section::kOptions, key, value);
 }
 
 QString ProgramSettings::ReadStudyMode(const QString& key, const QString& fallback) const {

@@ -28,6 +28,9 @@ class ProgramSettings {
   // database paths and refreshes the status panels. A Mode stored as an empty text resets the
   // selection to its defaults instead, and nothing further is read.
   void LoadSettings();
+  // Writes the options, and with them, when that was asked for, that dismissed reminders show
+  // again.
+  void SaveOptions();
 
   // The placement stored last, the defaults where nothing is stored. When Maximized is set the
   // other fields are not read.
@@ -37,6 +40,7 @@ class ProgramSettings {
 
  private:
   [[nodiscard]] QString ReadOption(const QString& key) const;
+  void WriteOption(const QString& key, const QString& value);
   [[nodiscard]] QString ReadStudyMode(const QString& key, const QString& fallback) const;
   void LoadOptions();
   void LoadStudySelection();

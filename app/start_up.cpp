@@ -6,6 +6,7 @@
 #include "app/splash.h"
 #include "platform/clock.h"
 #include "platform/memory.h"
+#include "reference/tip_form.h"
 #include "store/runtime_error.h"
 
 using namespace Qt::StringLiterals;
@@ -14,13 +15,13 @@ namespace tessaly {
 
 namespace {
 
-constexpr int kSplashSeconds = 4;
-constexpr int kSecondsADay = 86400;
+constexpr int kSplashMilliseconds = 4000;
+constexpr int kMillisecondsADay = 86'400'000;
 constexpr int kPauseMilliseconds = 100;
 
-// Past midnight the time of day starts over; the seconds since the start do not.
-int SecondsSinceStart(QTime start, QTime now) {
-  return (start.secsTo(now) + kSecondsADay) % kSecondsADay;
+// Past midnight the time of day starts over; the time since the start does not.
+int MillisecondsSinceStart(QTime start, QTime now) {
+  return (start.msecsTo(now) + kMillisecondsADay) % kMillisecondsADay;
 }
 
 // The questions file is of no account before a session begins; one that cannot be read is reported
@@ -35,15 +36,24 @@ QString DatabaseReleaseIfReadable(Program& program) {
 
 void KeepSplashUp(Program& program, Clock& clock) {
   const QTime start = clock.Now().time();
-  while (SecondsSinceStart(start, clock.Now().time()) < kSplashSeconds) {
+  while (MillisecondsSinceStart(start, clock.Now().time()) < kSplashMilliseconds) {
     program.ShowStartUpState();
     clock.Sleep(kPauseMilliseconds);
   }
 }
 
-}  // namespace
+// The program can be used all the same when this fails.
+void ShowTipOfTheDay(Program& program, frmMain& mainWindow, ErrorBoundary& errors) {
+  if (program.State().ProgramOptions.TipofDay != 1) {
+    return;
+  }
+  errors.Run(u"showing the tip of the day"_s, [&] {
+    frmTip tip(program, errors, &mainWindow);
+    tip.LoadAndShow(TipOccasion::Start);
+  });
+}
 
-bool StartUp(Program& program, frmMain& mainWindow, Clock& clock, ErrorBoundary& errors) {
+bool ShowMainWindow(Program& program, frmMain& mainWindow, Clock& clock, ErrorBoundary& errors) {
   return errors.Run(u"starting"_s, [&] {
     program.Prepare();
     {
@@ -56,6 +66,16 @@ bool StartUp(Program& program, frmMain& mainWindow, Clock& clock, ErrorBoundary&
     mainWindow.show();
     ReturnFreedMemory();
   });
+}
+
+}  // namespace
+
+bool StartUp(Program& program, frmMain& mainWindow, Clock& clock, ErrorBoundary& errors) {
+  if (!ShowMainWindow(program, mainWindow, clock, errors)) {
+    return false;
+  }
+  ShowTipOfTheDay(program, mainWindow, errors);
+  return true;
 }
 
 }  // namespace tessaly

@@ -8,8 +8,9 @@ class ErrorBoundary;
 class Program;
 class frmMain;
 
-// Brings the program up: settings, statistics, the splash screen for four seconds, then the main
-// window at its place. False when something failed; the user has been told.
+// Brings the program up: settings, statistics, the splash screen for four seconds, the main window
+// at its place, and over it the tip of the day when the user wants it, until it is closed. False
+// when there is no main window because something failed; the user has been told.
 [[nodiscard]] bool StartUp(Program& program, frmMain& mainWindow, Clock& clock,
                            ErrorBoundary& errors);
 

@@ -1,6 +1,6 @@
 #include "app/study_text_box.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +26,12 @@ void StudyTextBox::SetFontSize(int points) {
 
 bool StudyTextBox::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
+    return false;
+  }
+  // Nor does a command that is off become one of the text box.
+  if (event->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(event)->matches(QKeySequence::SelectAll)) {
+    event->ignore();
     return false;
   }
   return QPlainTextEdit::event(event);

@@ -37,7 +37,8 @@ struct BenchProgram {
   test::FakeBoxes boxes;
   test::FakeView view;
   DiskFileOperations files;
-  Program program{{settings, clock, boxes, files}, bank.Folder(), view};
+  test::FakeDrives drives;
+  Program program{{settings, clock, boxes, files, drives}, bank.Folder(), view};
 };
 
 // A bank of 768,000 rows takes its time to make, so each size is made once.

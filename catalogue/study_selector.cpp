@@ -69,7 +69,11 @@ void StudySelector::SaveStudySelection() {
     state_.Time.Stored = settings_.Read(TimerSection(selection.Mode), TimerKey(selection), {});
   }
   WriteSetting("QuestionType"_L1, QString::number(selection.QuestionType));
-  LoadSubjectStats(workspace_, state_.Paths, selection.Mode, state_.Subjects);
+  LoadSubjectTotals();
+}
+
+void StudySelector::LoadSubjectTotals() {
+  LoadSubjectStats(workspace_, state_.Paths, state_.Selection.Mode, state_.Subjects);
 }
 
 void StudySelector::ShowModeCaption() {

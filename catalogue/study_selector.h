@@ -31,6 +31,8 @@ class StudySelector {
   // Writes the fields that belong to the method, reads the section's study time where it is by
   // exam section, and loads the subject statistics of the mode.
   void SaveStudySelection();
+  // Loads the subject statistics of the selection's mode.
+  void LoadSubjectTotals();
 
   // Status panels: the mode; selection and timer; the selection alone.
   void ShowModeCaption();

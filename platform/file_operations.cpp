@@ -34,13 +34,16 @@ namespace {
   }
 }
 
+// A file system that has nothing to synchronize in a folder says that it cannot.
+bool SynchronizeHandle(int handle) { return ::fsync(handle) == 0 || errno == EINVAL; }
+
 // fsync works on folders too, where it puts the entries on the disk.
 void Synchronize(const QString& path) {
   const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
   if (handle < 0) {
     RaiseSystemFailure(errno, path);
   }
-  const bool synchronized = ::fsync(handle) == 0;
+  const bool synchronized = SynchronizeHandle(handle);
   const int failure = errno;
   ::close(handle);
   if (!synchronized) {
@@ -51,30 +54,38 @@ void Synchronize(const QString& path) {
 void SynchronizeFolderOf(const QString& path) { Synchronize(QFileInfo(path).absolutePath()); }
 
 void WriteAll(QFile& file, const QByteArray& content) {
-  // Only the flush tells of a full disk where the content fits the buffer.
+  // Only the flush tells of a full disk where the content fits the buffer. Where a part of it still
+  // found room, the library counts that part and reports no error.
   if (file.write(content) != content.size() || !file.flush()) {
-    throw RuntimeError(file.error() == QFileDevice::ResourceError ? ErrorNumber::DiskFull
-                                                                  : ErrorNumber::DeviceIo,
+    throw RuntimeError(file.error() == QFileDevice::WriteError ? ErrorNumber::DeviceIo
+                                                               : ErrorNumber::DiskFull,
                        file.fileName());
   }
 }
 
-void CopyAcross(const QString& source, const QString& target) {
-  QFile from(source);
-  QFile to(target);
-  if (!from.open(QIODevice::ReadOnly)) {
-    throw RuntimeError(ErrorNumber::FileNotFound, source);
-  }
-  if (!to.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-    throw RuntimeError(ErrorNumber::PermissionDenied, target);
-  }
-  constexpr qint64 kBlockBytes = 1 << 20;
+// Each block goes to the disk at once: left to the end, the wait for a slow drive would be one long
+// silence.
+void CopyBlocks(QFile& from, QFile& to, const std::function<void()>& afterBlock) {
+  constexpr qint64 kBlockBytes = 128 * 1024;
   while (!from.atEnd()) {
     const QByteArray block = from.read(kBlockBytes);
     if (block.isEmpty()) {
-      throw RuntimeError(ErrorNumber::DeviceIo, source);
+      throw RuntimeError(ErrorNumber::DeviceIo, from.fileName());
     }
     WriteAll(to, block);
+    if (!SynchronizeHandle(to.handle())) {
+      RaiseSystemFailure(errno, to.fileName());
+    }
+    afterBlock();
+  }
+}
+
+void OpenToRead(QFile& file) {
+  if (!QFileInfo(file.fileName()).isFile()) {
+    throw RuntimeError(ErrorNumber::FileNotFound, file.fileName());
+  }
+  if (!file.open(QIODevice::ReadOnly)) {
+    throw RuntimeError(ErrorNumber::PermissionDenied, file.fileName());
   }
 }
 
@@ -85,9 +96,9 @@ void MoveInPlace(const QString& source, const QString& target) {
   }
 }
 
-QString BesideName(const QString& target) { return target + u".new"_s; }
-
 }  // namespace
+
+QString BesideName(const QString& path) { return path + u".new"_s; }
 
 void FlushToDisk(const QString& path) {
   Synchronize(path);
@@ -112,13 +123,7 @@ void DiskFileOperations::Move(const QString& source, const QString& target) {
     RaiseSystemFailure(errno, source);
   }
   const QString beside = BesideName(target);
-  try {
-    CopyAcross(source, beside);
-    Synchronize(beside);
-  } catch (const RuntimeError&) {
-    QFile::remove(beside);
-    throw;
-  }
+  Copy(source, beside, [] {});
   MoveInPlace(beside, target);
   SynchronizeFolderOf(target);
   Remove(source);
@@ -140,6 +145,24 @@ void DiskFileOperations::Write(const QString& path, const QByteArray& content) {
   }
   MoveInPlace(beside, path);
   SynchronizeFolderOf(path);
+}
+
+void DiskFileOperations::Copy(const QString& source, const QString& target,
+                              const std::function<void()>& afterBlock) {
+  QFile from(source);
+  OpenToRead(from);
+  QFile to(target);
+  if (!to.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    throw RuntimeError(ErrorNumber::PermissionDenied, target);
+  }
+  try {
+    CopyBlocks(from, to, afterBlock);
+    to.close();
+    FlushToDisk(target);
+  } catch (const RuntimeError&) {
+    QFile::remove(target);
+    throw;
+  }
 }
 
 }  // namespace tessaly

@@ -1,7 +1,5 @@
 #include "stats/section_statistics.h"
 
-#include <limits>
-
 #include "catalogue/study_selection.h"
 #include "store/conversions.h"
 #include "store/database.h"
@@ -15,9 +13,13 @@ namespace {
 constexpr int kLastNumberWithPoints = 80;
 constexpr int kPartFourSection = 3;
 
-void CountRows(SectionTally& tally, Recordset& rows, int section, const QString& statusField) {
-  for (; !rows.EndOfFile(); rows.MoveNext()) {
-    CountRow(tally, rows.Text(statusField), section, rows.Integer(status_field::kQuestionNo));
+// Counts the row; false when a sum was full.
+bool FitsTally(SectionTally& tally, const QString& status, int section, int questionNo) {
+  try {
+    CountRow(tally, status, section, questionNo);
+    return true;
+  } catch (const RuntimeError&) {
+    return false;
   }
 }
 
@@ -65,18 +67,17 @@ SectionTally CountSectionStats(const Database& answers, const QString& table, in
   if (mode != kTutorialMode && mode != kEvaluationMode) {
     return tally;
   }
-  Recordset rows = answers.OpenRecordset(SelectAllFrom(table));
-  if (rows.RecordCount() > std::numeric_limits<std::int16_t>::max()) {
-    throw RuntimeError(ErrorNumber::Overflow, table);
-  }
-  try {
-    CountRows(tally, rows, section,
-              mode == kTutorialMode ? status_field::kTutorialMode : status_field::kEvalMode);
-  } catch (const RuntimeError& error) {
-    if (error.Number() != ErrorNumber::Overflow) {
-      throw;
-    }
-  }
+  const QString statusField =
+      mode == kTutorialMode ? status_field::kTutorialMode : status_field::kEvalMode;
+  std::int16_t row = 0;
+  bool full = false;
+  answers.ReadRows(table, {statusField, status_field::kQuestionNo},
+                   [&](const std::vector<QVariant>& values) {
+                     row = CheckedAdd(row, 1);
+                     const std::int16_t questionNo =
+                         ToInteger(values[1], status_field::kQuestionNo);
+                     full = full || !FitsTally(tally, values[0].toString(), section, questionNo);
+                   });
   return tally;
 }
 

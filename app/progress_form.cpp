@@ -1,0 +1,41 @@
+#include "app/progress_form.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+#include "store/settings_store.h"
+
+using namespace Qt::StringLiterals;
+
+namespace tessaly {
+
+ProgressForm::ProgressForm(const QString& name, const QString& labelName, const QString& text,
+                           QWidget* parent)
+    : QDialog(parent) {
+  setObjectName(name);
+  setWindowTitle(kApplicationTitle);
+  auto* label = new QLabel(text);
+  label->setObjectName(labelName);
+  label->setTextFormat(Qt::PlainText);
+  label->setAlignment(Qt::AlignCenter);
+  auto* bar = new QProgressBar;
+  bar->setRange(0, 0);
+  bar->setTextVisible(false);
+  bar->setAccessibleName(text);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(28, 20, 28, 20);
+  column->setSpacing(14);
+  column->addWidget(label);
+  column->addWidget(bar);
+  column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void ProgressForm::ShowAndRepaint() {
+  show();
+  // A click while the work is under way must not start another command.
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+}  // namespace tessaly

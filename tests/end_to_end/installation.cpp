@@ -1,0 +1,62 @@
+#include "tests/end_to_end/installation.h"
+
+#include <QFile>
+#include <QSettings>
+#include <stdexcept>
+
+#include "store/settings_store.h"
+
+using namespace Qt::StringLiterals;
+
+namespace tessaly::test {
+
+namespace {
+
+void Copy(const QString& source, const QString& target) {
+  if (!QFile::copy(source, target)) {
+    throw std::runtime_error("cannot copy " + source.toStdString() + " to " + target.toStdString());
+  }
+}
+
+}  // namespace
+
+Installation::Installation(const QString& parentFolder)
+    : bank(parentFolder), workingFolder_(bank.WorkingFolder()) {
+  const QString built = QString::fromUtf8(TESSALY_PROGRAM_DIR);
+  Copy(built + u"/tessaly"_s, ProgramPath());
+  Copy(built + u"/splash01.bmp"_s, Folder() + u"/splash01.bmp"_s);
+  UseConfigFolder(home_.path());
+}
+
+void Installation::UseConfigFolder(const QString& folder) {
+  configFolder_ = folder;
+  Store(u"Options/Suppress2587Msg"_s, u"1"_s);
+}
+
+QString Installation::SettingsPath() const {
+  return configFolder_ + u'/' + kApplicationTitle + u".ini"_s;
+}
+
+QProcessEnvironment Installation::Environment() const {
+  QProcessEnvironment environment;
+  environment.insert(u"PATH"_s, qEnvironmentVariable("PATH"));
+  environment.insert(u"LANG"_s, u"C.UTF-8"_s);
+  environment.insert(u"HOME"_s, home_.path());
+  environment.insert(u"XDG_RUNTIME_DIR"_s, home_.path());
+  environment.insert(u"XDG_CONFIG_HOME"_s, configFolder_);
+  environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+  environment.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"tessaly_agent"_s);
+  environment.insert(u"QT_PLUGIN_PATH"_s, QString::fromUtf8(TESSALY_AGENT_PLUGINS));
+  return environment;
+}
+
+void Installation::Store(const QString& address, const QString& value) const {
+  QSettings settings(SettingsPath(), QSettings::IniFormat);
+  settings.setValue(address, value);
+}
+
+QString Installation::Stored(const QString& address) const {
+  return QSettings(SettingsPath(), QSettings::IniFormat).value(address).toString();
+}
+
+}  // namespace tessaly::test

@@ -12,7 +12,7 @@ class Program;
 class frmAbout : public QDialog {
   Q_OBJECT
 
- public:
+public:
   frmAbout(Program& program, QWidget* parent);
 };
 

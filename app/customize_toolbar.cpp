@@ -30,7 +30,9 @@ QListWidgetItem* NewItem(QAction* action) {
   return item;
 }
 
-QAction* ActionOf(const QListWidgetItem* item) { return item->data(kActionRole).value<QAction*>(); }
+QAction* ActionOf(const QListWidgetItem* item) {
+  return item->data(kActionRole).value<QAction*>();
+}
 
 }  // namespace
 
@@ -193,6 +195,8 @@ ToolbarArrangement frmCustomize::Current() const {
   return arrangement;
 }
 
-QAction* frmCustomize::SelectedAvailable() const { return ActionOf(available_->currentItem()); }
+QAction* frmCustomize::SelectedAvailable() const {
+  return ActionOf(available_->currentItem());
+}
 
 }  // namespace tessaly

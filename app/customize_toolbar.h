@@ -24,10 +24,10 @@ void ArrangeToolbar(QToolBar& toolbar, const ToolbarArrangement& arrangement);
 class frmCustomize : public QDialog {
   Q_OBJECT
 
- public:
+public:
   frmCustomize(QToolBar& toolbar, const ToolbarArrangement& defaults, QWidget* parent);
 
- private:
+private:
   void BuildLists();
   void FillLists();
   void Apply(const ToolbarArrangement& arrangement, qsizetype selectedRow);

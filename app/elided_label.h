@@ -10,12 +10,12 @@ namespace tessaly {
 class ElidedLabel : public QLabel {
   Q_OBJECT
 
- public:
+public:
   explicit ElidedLabel(QWidget* parent);
 
   [[nodiscard]] QSize minimumSizeHint() const override;
 
- protected:
+protected:
   void paintEvent(QPaintEvent* event) override;
 };
 

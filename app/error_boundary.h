@@ -16,13 +16,13 @@ class RuntimeError;
 // through it, so that a failure abandons the command, tells the user and leaves the program
 // running.
 class ErrorBoundary {
- public:
+public:
   explicit ErrorBoundary(MessageBoxes& boxes) : boxes_(boxes) {}
 
   // Runs the work; `doing` completes "While ...". False when it failed and the user was told.
   bool Run(const QString& doing, const std::function<void()>& work);
 
- private:
+private:
   MessageBoxes& boxes_;
 };
 

@@ -337,9 +337,13 @@ void frmMain::SetPanelToolTip(Panel panel, const QString& toolTip) {
   panels_[static_cast<std::size_t>(panel) - 1]->setToolTip(toolTip);
 }
 
-void frmMain::StartTestTimer(int intervalMilliseconds) { testTimer_->start(intervalMilliseconds); }
+void frmMain::StartTestTimer(int intervalMilliseconds) {
+  testTimer_->start(intervalMilliseconds);
+}
 
-void frmMain::StopTestTimer() { testTimer_->stop(); }
+void frmMain::StopTestTimer() {
+  testTimer_->stop();
+}
 
 float frmMain::Measure(WindowMeasure measure) const {
   switch (measure) {
@@ -400,7 +404,9 @@ void frmMain::SaveWindowPlacement() {
   program_->Settings().SaveWindowPlacement(placement);
 }
 
-QAction* frmMain::ActionOf(QLatin1StringView name) const { return menuActions_.at(name); }
+QAction* frmMain::ActionOf(QLatin1StringView name) const {
+  return menuActions_.at(name);
+}
 
 QWidget* frmMain::WidgetOf(Box box) const {
   switch (box) {
@@ -425,6 +431,8 @@ QSize frmMain::ClientTwips() const {
   return {ToTwips(client_->width()), ToTwips(client_->height())};
 }
 
-void UnloadAllForms() { QApplication::closeAllWindows(); }
+void UnloadAllForms() {
+  QApplication::closeAllWindows();
+}
 
 }  // namespace tessaly

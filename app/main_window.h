@@ -31,7 +31,7 @@ class WelcomePane;
 class frmMain : public QMainWindow, public MainWindowView, public PlacedWindow {
   Q_OBJECT
 
- public:
+public:
   explicit frmMain(MessageBoxes& boxes);
 
   // Ties the window's commands to the program; once, before the window is shown.
@@ -57,17 +57,17 @@ class frmMain : public QMainWindow, public MainWindowView, public PlacedWindow {
   [[nodiscard]] float Measure(WindowMeasure measure) const override;
   void SetMeasure(WindowMeasure measure, float twips) override;
 
- protected:
+protected:
   void closeEvent(QCloseEvent* event) override;
 
   // The client area reports its resizes here, because that is what the layout counts from.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
- private:
+private:
   struct CommandHandler {
     QLatin1StringView command;
-    const char* doing;  // completes "While ..." when it fails
-    void (frmMain::*handler)();
+    const char* doing = nullptr;  // completes "While ..." when it fails
+    void (frmMain::*handler)() = nullptr;
   };
   static const std::span<const CommandHandler> kHandlers;
 

@@ -84,10 +84,10 @@ constexpr MenuEntry kPopUpMenu{"PopUp"_L1, "PopUp"_L1, kPopUpItems};
 
 // In the order of the enumeration.
 constexpr std::array kCommandNames{
-    "mnuFileBegin"_L1,       "mnuFileNext"_L1,    "mnuFileClose"_L1,  "mnuFilePrint"_L1,
-    "mnuFileResearch"_L1,    "mnuUpdates"_L1,     "mnuFileExit"_L1,   "mnuViewExamChoices"_L1,
-    "mnuViewOptions"_L1,     "mnuFileExport"_L1,  "mnuFileImport"_L1, "mnuViewStats"_L1,
-    "mnuStatsReset"_L1,      "mnuHelpAbout"_L1,
+    "mnuFileBegin"_L1,    "mnuFileNext"_L1,   "mnuFileClose"_L1,  "mnuFilePrint"_L1,
+    "mnuFileResearch"_L1, "mnuUpdates"_L1,    "mnuFileExit"_L1,   "mnuViewExamChoices"_L1,
+    "mnuViewOptions"_L1,  "mnuFileExport"_L1, "mnuFileImport"_L1, "mnuViewStats"_L1,
+    "mnuStatsReset"_L1,   "mnuHelpAbout"_L1,
 };
 
 struct KeyEntry {
@@ -96,10 +96,10 @@ struct KeyEntry {
 };
 
 constexpr std::array kCommandsByKey{
-    KeyEntry{"Start"_L1, "mnuFileBegin"_L1},       KeyEntry{"Stop"_L1, "mnuFileClose"_L1},
-    KeyEntry{"Hint"_L1, "mnuFileResearch"_L1},     KeyEntry{"Print"_L1, "mnuFilePrint"_L1},
-    KeyEntry{"Next"_L1, "mnuFileNext"_L1},         KeyEntry{"Mode"_L1, "mnuViewExamChoices"_L1},
-    KeyEntry{"Settings"_L1, "mnuViewOptions"_L1},  KeyEntry{"Stats"_L1, "mnuViewStats"_L1},
+    KeyEntry{"Start"_L1, "mnuFileBegin"_L1},      KeyEntry{"Stop"_L1, "mnuFileClose"_L1},
+    KeyEntry{"Hint"_L1, "mnuFileResearch"_L1},    KeyEntry{"Print"_L1, "mnuFilePrint"_L1},
+    KeyEntry{"Next"_L1, "mnuFileNext"_L1},        KeyEntry{"Mode"_L1, "mnuViewExamChoices"_L1},
+    KeyEntry{"Settings"_L1, "mnuViewOptions"_L1}, KeyEntry{"Stats"_L1, "mnuViewStats"_L1},
 };
 
 }  // namespace
@@ -113,18 +113,22 @@ const std::array<ToolButtonEntry, kToolButtonCount> kToolButtons{{
      "Find where to research the answer"_L1, "research"_L1},
     {ToolButton::Print, "Print"_L1, "Print"_L1, "Print Question"_L1,
      "Print the current question"_L1, "print"_L1},
-    {ToolButton::Mode, "Study Mode"_L1, "Mode"_L1, "Study Mode Wizard"_L1,
-     "Select a study mode"_L1, "study_mode"_L1},
+    {ToolButton::Mode, "Study Mode"_L1, "Mode"_L1, "Study Mode Wizard"_L1, "Select a study mode"_L1,
+     "study_mode"_L1},
     {ToolButton::Settings, "Settings"_L1, "Settings"_L1, "General Program Settings"_L1,
      "Change general program preferences"_L1, "settings"_L1},
-    {ToolButton::Stats, "View Stats"_L1, "Stats"_L1, "Statistics"_L1,
-     "View study statistics"_L1, "statistics"_L1},
+    {ToolButton::Stats, "View Stats"_L1, "Stats"_L1, "Statistics"_L1, "View study statistics"_L1,
+     "statistics"_L1},
     {ToolButton::Next, "Next"_L1, "Next"_L1, {}, "Next Question"_L1, "next"_L1},
 }};
 
-std::span<const MenuEntry> MenuBarEntries() { return kMenuBar; }
+std::span<const MenuEntry> MenuBarEntries() {
+  return kMenuBar;
+}
 
-const MenuEntry& PopUpMenu() { return kPopUpMenu; }
+const MenuEntry& PopUpMenu() {
+  return kPopUpMenu;
+}
 
 QLatin1StringView NameOf(Command command) {
   return kCommandNames[static_cast<std::size_t>(command)];

@@ -34,7 +34,7 @@ inline constexpr QLatin1StringView kSeparatorCaption{"-"};
 [[nodiscard]] QLatin1StringView NameOf(Command command);
 
 struct ToolButtonEntry {
-  ToolButton button;
+  ToolButton button = ToolButton::Start;
   QLatin1StringView caption;
   QLatin1StringView key;
   QLatin1StringView description;  // in the Customize dialog; may be empty

@@ -45,7 +45,7 @@ enum class Panel { Mode = 1, Selection = 2, Timer = 3 };
 // The main window as the study logic sees it: boxes, answer buttons, commands and status panels.
 // The view only shows what it is told and gives back what a box holds; it decides nothing.
 class MainWindowView {
- public:
+public:
   MainWindowView() = default;
   MainWindowView(const MainWindowView&) = delete;
   MainWindowView& operator=(const MainWindowView&) = delete;

@@ -26,7 +26,9 @@ constexpr std::int32_t kCoolBarBorder = 60;
 
 // A window smaller than what surrounds the panes still gets panes with a size; they overlap the
 // buttons then.
-std::int32_t RoundedAmount(double value) { return RoundToLong(std::abs(value)); }
+std::int32_t RoundedAmount(double value) {
+  return RoundToLong(std::abs(value));
+}
 
 std::int32_t CoolBarHeight(std::int32_t scaleHeight, std::int32_t toolbarHeight) {
   return scaleHeight - kBelowCoolBar <= toolbarHeight ? scaleHeight - kBelowCoolBar

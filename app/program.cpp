@@ -34,6 +34,8 @@ void Program::ShowStartUpState() {
   DisableSessionCommands(view_);
 }
 
-QString VersionCaption() { return u"2002"_s + u" Edition (Release "_s + kReleaseNumber + u")"_s; }
+QString VersionCaption() {
+  return u"2002"_s + u" Edition (Release "_s + kReleaseNumber + u")"_s;
+}
 
 }  // namespace tessaly

@@ -26,7 +26,7 @@ struct Platform {
 
 // The program without its windows: the shared state and everything that works on it.
 class Program {
- public:
+public:
   // `programFolder` holds the database files, pictures and pages; no trailing separator.
   Program(const Platform& platform, const QString& programFolder, MainWindowView& view);
 
@@ -43,7 +43,7 @@ class Program {
   [[nodiscard]] StudySelector& Selector() { return selector_; }
   [[nodiscard]] StudySession& Session() { return session_; }
 
- private:
+private:
   Platform platform_;
   ProgramState state_;
   Workspace workspace_;

@@ -13,7 +13,9 @@ namespace tessaly {
 
 namespace {
 
-QString Address(QLatin1StringView section, const QString& key) { return section + u'/' + key; }
+QString Address(QLatin1StringView section, const QString& key) {
+  return section + u'/' + key;
+}
 
 }  // namespace
 

@@ -21,7 +21,7 @@ struct WindowPlacement {
 // Moves the options, the study selection and the window's placement between the settings store and
 // the shared state. A stored text that is no number raises 13 or 6, with the key in its detail.
 class ProgramSettings {
- public:
+public:
   ProgramSettings(ProgramState& state, SettingsStore& settings, StudySelector& selector);
 
   // Reads the options and the last study selection with its section's study time, builds the
@@ -38,7 +38,7 @@ class ProgramSettings {
   // A maximized placement writes only that; the last normal one stays stored.
   void SaveWindowPlacement(const WindowPlacement& placement);
 
- private:
+private:
   [[nodiscard]] QString ReadOption(const QString& key) const;
   void WriteOption(const QString& key, const QString& value);
   [[nodiscard]] QString ReadStudyMode(const QString& key, const QString& fallback) const;

@@ -42,15 +42,15 @@ struct ProgramState {
   std::int16_t TablePosition = 1;  // of the next table when going over all of them, 1 to 25
   QString QuestionSubject;         // of the question on screen; empty when none is shown
   Options ProgramOptions;
-  bool ResetReminders = false;     // dismissed reminders are to show again, with the next save
+  bool ResetReminders = false;  // dismissed reminders are to show again, with the next save
   SubjectStatistics Subjects;
   SubjectExportNames SubjectNames;
   SectionTime Time;
   BankPaths Paths;
   BackupState Backup;
-  QString ResearchLink;            // page of the last question that had one
-  bool Answered = false;           // the question on screen has been graded
-  bool TrueFalse = false;          // the question on screen is a True/False question
+  QString ResearchLink;    // page of the last question that had one
+  bool Answered = false;   // the question on screen has been graded
+  bool TrueFalse = false;  // the question on screen is a True/False question
 };
 
 }  // namespace tessaly

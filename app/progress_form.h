@@ -7,15 +7,14 @@ class QLabel;
 
 namespace tessaly {
 
-// A small form with one line that says what the program is busy with. Modeless; goes away when it is
-// destroyed.
+// A small form with one line that says what the program is busy with. Modeless; goes away when it
+// is destroyed.
 class ProgressForm : public QDialog {
   Q_OBJECT
 
- public:
+public:
   // `name` is the form's control name, `labelName` its label's.
-  ProgressForm(const QString& name, const QString& labelName, const QString& text,
-               QWidget* parent);
+  ProgressForm(const QString& name, const QString& labelName, const QString& text, QWidget* parent);
 
   // Shows the form and returns when it is painted; painting goes on at each further call.
   void ShowAndRepaint();

@@ -10,14 +10,14 @@ namespace tessaly {
 class SplashPicture : public QWidget {
   Q_OBJECT
 
- public:
+public:
   SplashPicture(const QString& programFolder, const QString& databaseRelease, QWidget* parent);
 };
 
 class frmSplash : public QWidget {
   Q_OBJECT
 
- public:
+public:
   frmSplash(const QString& programFolder, const QString& databaseRelease);
 
   // Shows the form in the middle of the screen and returns when it is painted.

@@ -11,13 +11,13 @@ namespace tessaly {
 class StudyTextBox : public QPlainTextEdit {
   Q_OBJECT
 
- public:
+public:
   StudyTextBox(const QString& name, const QString& accessibleName, QWidget* parent);
 
   // Points.
   void SetFontSize(int points);
 
- protected:
+protected:
   bool event(QEvent* event) override;
 };
 

@@ -10,8 +10,12 @@ namespace tessaly {
 // Twips to a device-independent pixel.
 inline constexpr int kTwipsPerPixel = 15;
 
-[[nodiscard]] inline int ToPixels(double twips) { return qRound(twips / kTwipsPerPixel); }
-[[nodiscard]] inline int ToTwips(int pixels) { return pixels * kTwipsPerPixel; }
+[[nodiscard]] inline int ToPixels(double twips) {
+  return qRound(twips / kTwipsPerPixel);
+}
+[[nodiscard]] inline int ToTwips(int pixels) {
+  return pixels * kTwipsPerPixel;
+}
 [[nodiscard]] inline QRect ToPixels(const TwipsRect& rect) {
   return {ToPixels(rect.left), ToPixels(rect.top), ToPixels(rect.width), ToPixels(rect.height)};
 }

@@ -44,6 +44,8 @@ WelcomePane::WelcomePane(QWidget* parent) : QFrame(parent) {
   lines->addStretch();
 }
 
-void WelcomePane::SetSelection(const QString& text) { selection_->setText(text); }
+void WelcomePane::SetSelection(const QString& text) {
+  selection_->setText(text);
+}
 
 }  // namespace tessaly

@@ -12,12 +12,12 @@ namespace tessaly {
 class WelcomePane : public QFrame {
   Q_OBJECT
 
- public:
+public:
   explicit WelcomePane(QWidget* parent);
 
   void SetSelection(const QString& text);
 
- private:
+private:
   QLabel* selection_;
 };
 

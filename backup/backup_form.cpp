@@ -72,6 +72,8 @@ void frmBackup::BuildControls() {
 
 void frmBackup::BuildLayout() {
   auto* buttons = new QHBoxLayout;
+  constexpr int kSpacing = 8;
+  buttons->setSpacing(kSpacing);
   buttons->addStretch();
   buttons->addWidget(ok_);
   buttons->addWidget(cancel_);

@@ -21,7 +21,7 @@ namespace {
 
 struct PlacementEntry {
   QLatin1StringView key;
-  WindowMeasure measure;
+  WindowMeasure measure{};
 };
 
 constexpr std::array kPlacement{

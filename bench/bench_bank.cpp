@@ -49,10 +49,9 @@ void FillBank(test::TestBank& bank, int rowsATable) {
                   u"Publication 17, \"Filing Status\""_s,
                   u"p17.html"_s};
   });
-  FillTables(bank.Paths().AnswersDbPath, u"?, ?, ?, ?, ?, ?"_s, rowsATable,
-             [&unanswered](int no) {
-               return Values{no, unanswered, unanswered, unanswered, 0, 0};
-             });
+  FillTables(bank.Paths().AnswersDbPath, u"?, ?, ?, ?, ?, ?"_s, rowsATable, [&unanswered](int no) {
+    return Values{no, unanswered, unanswered, unanswered, 0, 0};
+  });
 }
 
 }  // namespace tessaly::bench

@@ -62,8 +62,9 @@ void Measure(benchmark::State& state, const Work& work) {
 
 void BeginUnlessRunning(BenchProgram& program) {
   if (!program.Session().IsRunning()) {
-    program.bank.RunOnAnswers(u"UPDATE \"01Part1\" SET TutorialMode = 'U', TimesAsked = 0, "
-                              u"TimesCorrect = 0"_s);
+    program.bank.RunOnAnswers(
+        u"UPDATE \"01Part1\" SET TutorialMode = 'U', TimesAsked = 0, "
+        u"TimesCorrect = 0"_s);
     program.bank.RunOnAnswers(u"UPDATE SubjectStats SET TMAsked = 0, TMCorrect = 0"_s);
     program.program.Prepare();
     program.Session().BeginSession();

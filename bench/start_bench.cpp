@@ -2,7 +2,8 @@
 //
 //   start_bench PROGRAM SECONDS   (how long it may take to come up)
 //
-// Prints "PROCESSOR_MILLISECONDS PSS_KIB", the median of five starts, each with settings of its own.
+// Prints "PROCESSOR_MILLISECONDS PSS_KIB", the median of five starts, each with settings of its
+// own.
 
 #include <QCoreApplication>
 #include <QDir>

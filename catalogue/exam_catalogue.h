@@ -19,9 +19,9 @@ struct ExamEntry {
 };
 
 struct PartEntry {
-  QLatin1StringView caption;       // as SectionString and the wizard's list hold it
-  QLatin1StringView paddedCaption; // eight characters, in the statistics report
-  QLatin1StringView printCaption;  // in the heading of a printed question
+  QLatin1StringView caption;        // as SectionString and the wizard's list hold it
+  QLatin1StringView paddedCaption;  // eight characters, in the statistics report
+  QLatin1StringView printCaption;   // in the heading of a printed question
 };
 
 inline constexpr int kExamCount = 6;

@@ -21,12 +21,12 @@ inline constexpr std::int16_t kUnansweredAndMissedQuestions = 2;
 struct StudySelection {
   std::uint8_t Mode = kTutorialMode;
   std::uint8_t Method = kByExamSection;
-  std::uint8_t Exam = 0;         // index into kExams
-  std::int16_t Section = 0;      // index into kParts
-  QString ExamString;            // caption of the exam
-  QString SectionString;         // caption of the section
-  QString Year;                  // two-digit code derived from ExamString
-  QString Subject;               // used when Method is by subject
+  std::uint8_t Exam = 0;     // index into kExams
+  std::int16_t Section = 0;  // index into kParts
+  QString ExamString;        // caption of the exam
+  QString SectionString;     // caption of the section
+  QString Year;              // two-digit code derived from ExamString
+  QString Subject;           // used when Method is by subject
   std::int16_t QuestionType = kUnansweredQuestions;
 };
 

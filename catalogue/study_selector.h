@@ -13,7 +13,7 @@ class Workspace;
 // Changes the study selection and the current question table, and keeps the status panels that
 // tell of them.
 class StudySelector {
- public:
+public:
   StudySelector(ProgramState& state, SettingsStore& settings, Workspace& workspace,
                 MainWindowView& view);
 
@@ -39,7 +39,7 @@ class StudySelector {
   void RefreshStatus();
   void RefreshSelectionPanel();
 
- private:
+private:
   void WriteSetting(QLatin1StringView key, const QString& value);
   void WriteExamAndSection();
   void WriteCaptions();

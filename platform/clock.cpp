@@ -4,7 +4,9 @@
 
 namespace tessaly {
 
-QDateTime SystemClock::Now() const { return QDateTime::currentDateTime(); }
+QDateTime SystemClock::Now() const {
+  return QDateTime::currentDateTime();
+}
 
 void SystemClock::Sleep(int milliseconds) {
   QThread::msleep(static_cast<unsigned long>(milliseconds));

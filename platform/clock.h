@@ -7,7 +7,7 @@ namespace tessaly {
 
 // The only source of the time, so that a test can set it.
 class Clock {
- public:
+public:
   Clock() = default;
   Clock(const Clock&) = delete;
   Clock& operator=(const Clock&) = delete;
@@ -20,7 +20,7 @@ class Clock {
 };
 
 class SystemClock : public Clock {
- public:
+public:
   [[nodiscard]] QDateTime Now() const override;
   void Sleep(int milliseconds) override;
 };

@@ -35,7 +35,9 @@ namespace {
 }
 
 // A file system that has nothing to synchronize in a folder says that it cannot.
-bool SynchronizeHandle(int handle) { return ::fsync(handle) == 0 || errno == EINVAL; }
+bool SynchronizeHandle(int handle) {
+  return ::fsync(handle) == 0 || errno == EINVAL;
+}
 
 // fsync works on folders too, where it puts the entries on the disk.
 void Synchronize(const QString& path) {
@@ -51,22 +53,24 @@ void Synchronize(const QString& path) {
   }
 }
 
-void SynchronizeFolderOf(const QString& path) { Synchronize(QFileInfo(path).absolutePath()); }
+void SynchronizeFolderOf(const QString& path) {
+  Synchronize(QFileInfo(path).absolutePath());
+}
 
 void WriteAll(QFile& file, const QByteArray& content) {
   // Only the flush tells of a full disk where the content fits the buffer. Where a part of it still
   // found room, the library counts that part and reports no error.
   if (file.write(content) != content.size() || !file.flush()) {
-    throw RuntimeError(file.error() == QFileDevice::WriteError ? ErrorNumber::DeviceIo
-                                                               : ErrorNumber::DiskFull,
-                       file.fileName());
+    throw RuntimeError(
+        file.error() == QFileDevice::WriteError ? ErrorNumber::DeviceIo : ErrorNumber::DiskFull,
+        file.fileName());
   }
 }
 
 // Each block goes to the disk at once: left to the end, the wait for a slow drive would be one long
 // silence.
 void CopyBlocks(QFile& from, QFile& to, const std::function<void()>& afterBlock) {
-  constexpr qint64 kBlockBytes = 128 * 1024;
+  constexpr qint64 kBlockBytes = qint64{128} * 1024;
   while (!from.atEnd()) {
     const QByteArray block = from.read(kBlockBytes);
     if (block.isEmpty()) {
@@ -98,7 +102,9 @@ void MoveInPlace(const QString& source, const QString& target) {
 
 }  // namespace
 
-QString BesideName(const QString& path) { return path + u".new"_s; }
+QString BesideName(const QString& path) {
+  return path + u".new"_s;
+}
 
 void FlushToDisk(const QString& path) {
   Synchronize(path);

@@ -16,7 +16,7 @@ void FlushToDisk(const QString& path);
 // The changes of files that must survive being cut off at any moment. Each is on the disk when it
 // returns. An interface, so that a test can cut the program off between any two of them.
 class FileOperations {
- public:
+public:
   FileOperations() = default;
   FileOperations(const FileOperations&) = delete;
   FileOperations& operator=(const FileOperations&) = delete;
@@ -37,7 +37,7 @@ class FileOperations {
 };
 
 class DiskFileOperations : public FileOperations {
- public:
+public:
   void Remove(const QString& path) override;
   void Move(const QString& source, const QString& target) override;
   void Write(const QString& path, const QByteArray& content) override;

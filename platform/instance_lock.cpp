@@ -18,8 +18,7 @@ InstanceLock::InstanceLock(const QString& path) {
   static_cast<void>(QDir().mkpath(QFileInfo(path).absolutePath()));
   constexpr int kOwnerOnly = 0600;
   handle_ = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, kOwnerOnly);
-  heldByAnother_ =
-      handle_ >= 0 && ::flock(handle_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  heldByAnother_ = handle_ >= 0 && ::flock(handle_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 InstanceLock::~InstanceLock() {

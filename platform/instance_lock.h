@@ -8,7 +8,7 @@ namespace tessaly {
 // Says whether this user already runs the program. The kernel lets go of the lock with the process,
 // so that one left by a crash never stops the next start.
 class InstanceLock {
- public:
+public:
   // `path` of the lock file, which stays where it is; its folder is made when missing.
   explicit InstanceLock(const QString& path);
   InstanceLock(const InstanceLock&) = delete;
@@ -21,7 +21,7 @@ class InstanceLock {
 
   [[nodiscard]] static QString DefaultPath();
 
- private:
+private:
   int handle_ = -1;
   bool heldByAnother_ = false;
 };

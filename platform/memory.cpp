@@ -5,6 +5,8 @@
 namespace tessaly {
 
 // Nothing depends on whether there was anything to give back.
-void ReturnFreedMemory() { static_cast<void>(::malloc_trim(0)); }
+void ReturnFreedMemory() {
+  static_cast<void>(::malloc_trim(0));
+}
 
 }  // namespace tessaly

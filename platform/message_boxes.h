@@ -12,7 +12,7 @@ enum class BoxAnswer { Ok, Cancel, Yes, No };
 // Every modal message and question of the program goes through here, so that a test can answer in
 // advance and read afterwards. Closing a box by its frame answers Cancel or No, where it has them.
 class MessageBoxes {
- public:
+public:
   MessageBoxes() = default;
   MessageBoxes(const MessageBoxes&) = delete;
   MessageBoxes& operator=(const MessageBoxes&) = delete;

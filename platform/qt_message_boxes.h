@@ -7,7 +7,7 @@ namespace tessaly {
 
 // Message boxes on the screen, owned by the window in front.
 class QtMessageBoxes : public MessageBoxes {
- public:
+public:
   BoxAnswer Show(const QString& text, const QString& title, BoxIcon icon,
                  BoxButtons buttons) override;
 };

@@ -9,10 +9,10 @@ namespace tessaly {
 
 void LoadResearchHint(const ResearchReference& reference, ProgramState& state,
                       MainWindowView& view) {
-  view.SetBoxText(Box::txtHintLink,
-                  reference.Hint.isEmpty() ? u"The research link for this question is not "
-                                             u"available in the current database release."_s
-                                           : reference.Hint);
+  view.SetBoxText(Box::txtHintLink, reference.Hint.isEmpty()
+                                        ? u"The research link for this question is not "
+                                          u"available in the current database release."_s
+                                        : reference.Hint);
   if (!reference.Link.isEmpty()) {
     state.ResearchLink = reference.Link;
   }

@@ -48,8 +48,7 @@ void AnswerGrading::GradeAnswer(std::int16_t chosen) {
 AnswerToGrade AnswerGrading::ReadAnswer(std::int16_t chosen) const {
   Recordset& row = *session_.SessionSet;
   if (row.Text(status_field::kQuestionNo) != view_.BoxText(Box::txtQNo)) {
-    throw RuntimeError(ErrorNumber::NoCurrentRecord,
-                       u"question "_s + view_.BoxText(Box::txtQNo));
+    throw RuntimeError(ErrorNumber::NoCurrentRecord, u"question "_s + view_.BoxText(Box::txtQNo));
   }
   if (state_.Subjects.SubjectIndex < 0 || state_.Subjects.SubjectIndex > kUnknownSubject) {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange,

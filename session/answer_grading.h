@@ -16,7 +16,7 @@ struct StatusChange;
 // in one transaction, and only then shows the verdict. When anything fails nothing has changed, on
 // the disk, in memory or on screen.
 class AnswerGrading {
- public:
+public:
   AnswerGrading(ProgramState& state, SessionData& session, MainWindowView& view);
 
   // `chosen` is 0 to 3. Raises the failures of the store, 6 where a counter overflows, 9 for a
@@ -29,7 +29,7 @@ class AnswerGrading {
   // Whether the last answer was wrong.
   [[nodiscard]] bool AnsweredIncorrectly() const { return answeredIncorrectly_; }
 
- private:
+private:
   [[nodiscard]] AnswerToGrade ReadAnswer(std::int16_t chosen) const;
   void WriteAnswer(const StatusChange& change, std::int16_t asked, std::int16_t correct);
   void ShowTutorialVerdict(const AnswerToGrade& answer, std::int16_t questionNo);

@@ -24,7 +24,9 @@ void CountWrongAnswer(SessionCounters& counters, bool tutorial) {
 
 }  // namespace
 
-bool IsCorrect(const AnswerToGrade& answer) { return answer.Chosen == answer.AnswerNumber; }
+bool IsCorrect(const AnswerToGrade& answer) {
+  return answer.Chosen == answer.AnswerNumber;
+}
 
 StatusChange GradeRow(const AnswerToGrade& answer) {
   const bool tutorial = answer.Mode == kTutorialMode;

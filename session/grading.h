@@ -15,12 +15,12 @@ namespace tessaly {
 
 struct AnswerToGrade {
   std::uint8_t Mode = 0;
-  std::int16_t Chosen = 0;         // 0 = A or True, 1 = B or False, 2 = C, 3 = D
-  std::int16_t AnswerNumber = 0;   // the right one, numbered alike
-  bool WasUnanswered = false;      // TutorialMode was "U"
+  std::int16_t Chosen = 0;        // 0 = A or True, 1 = B or False, 2 = C, 3 = D
+  std::int16_t AnswerNumber = 0;  // the right one, numbered alike
+  bool WasUnanswered = false;     // TutorialMode was "U"
   std::int16_t TimesAsked = 0;
   std::int16_t TimesCorrect = 0;
-  QString PassFailBox;             // what the pass/fail box still shows
+  QString PassFailBox;  // what the pass/fail box still shows
 };
 
 // What the answer's status row becomes. A count that is missing stays as it is.

@@ -58,8 +58,7 @@ QuestionDisplay::SubjectQuestion QuestionDisplay::LoadSubjectData() {
   if (!selection_.WalkToQuestionText()) {
     return SubjectQuestion::WalkOver;
   }
-  const std::int16_t questionNo =
-      session_.QuestionTextSet->Integer(question_field::kQuestionNo);
+  const std::int16_t questionNo = session_.QuestionTextSet->Integer(question_field::kQuestionNo);
   session_.SessionSet->FindFirst(QuestionStatusCriterion(questionNo));
   if (session_.SessionSet->EndOfFile()) {
     session_.Walk.ForceEnd();
@@ -82,7 +81,9 @@ void QuestionDisplay::ShowButtons() {
   view_.ShowAnswerButtons(state_.TrueFalse);
 }
 
-void QuestionDisplay::HideButtons() { view_.HideAnswerButtons(); }
+void QuestionDisplay::HideButtons() {
+  view_.HideAnswerButtons();
+}
 
 void QuestionDisplay::FindSubjectNumber() {
   SubjectStatistics& subjects = state_.Subjects;
@@ -108,11 +109,12 @@ void QuestionDisplay::FillBoxes(std::int16_t questionNo) {
                                           u"current database release."_s));
   ShowButtons();
   view_.SetBoxText(Box::txtAnswerNumber, TextOr(text, question_field::kAnswerNumber, {}));
-  view_.SetBoxText(Box::txtAnswered,
-                   session_.SessionSet->Text(tutorial ? status_field::kTutorialMode
-                                                      : status_field::kEvalMode));
-  LoadResearchHint({TextOr(text, question_field::kHint, {}), TextOr(text, question_field::kLink, {})},
-                   state_, view_);
+  view_.SetBoxText(
+      Box::txtAnswered,
+      session_.SessionSet->Text(tutorial ? status_field::kTutorialMode : status_field::kEvalMode));
+  LoadResearchHint(
+      {TextOr(text, question_field::kHint, {}), TextOr(text, question_field::kLink, {})}, state_,
+      view_);
 }
 
 }  // namespace tessaly

@@ -16,7 +16,7 @@ struct SessionData;
 
 // Puts questions on the main window.
 class QuestionDisplay {
- public:
+public:
   enum class SubjectQuestion {
     Shown,
     WalkOver,         // no table has a question of the subject left
@@ -39,7 +39,7 @@ class QuestionDisplay {
   // matches none gets the index 87 and leaves the totals.
   void FindSubjectNumber();
 
- private:
+private:
   void FillBoxes(std::int16_t questionNo);
 
   ProgramState& state_;

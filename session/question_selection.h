@@ -20,7 +20,7 @@ class Workspace;
 
 // Builds the set of questions that a session steps through, one question table at a time.
 class QuestionSelection {
- public:
+public:
   QuestionSelection(ProgramState& state, Workspace& workspace, SessionData& session);
 
   // Opens both files and the recordsets of the current table.
@@ -35,7 +35,7 @@ class QuestionSelection {
   // Walks on until the current table has a question of the subject. False when the walk is over.
   [[nodiscard]] bool WalkToQuestionText();
 
- private:
+private:
   [[nodiscard]] qsizetype CountStatusRows(const QString& filter);
   void OpenStatusTable();
 

@@ -46,10 +46,16 @@ void EnableAll(MainWindowView& view, bool running) {
 
 }  // namespace
 
-void EnableRunningCommands(MainWindowView& view) { EnableAll(view, true); }
+void EnableRunningCommands(MainWindowView& view) {
+  EnableAll(view, true);
+}
 
-void EnableIdleCommands(MainWindowView& view) { EnableAll(view, false); }
+void EnableIdleCommands(MainWindowView& view) {
+  EnableAll(view, false);
+}
 
-void DisableSessionCommands(MainWindowView& view) { EnableSessionCommands(view, false); }
+void DisableSessionCommands(MainWindowView& view) {
+  EnableSessionCommands(view, false);
+}
 
 }  // namespace tessaly

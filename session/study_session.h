@@ -25,7 +25,7 @@ class StudySelector;
 // command that fails leaves a state that the user can go on from: a failed begin is idle again, a
 // failed answer is not counted.
 class StudySession {
- public:
+public:
   struct Services {
     Workspace& workspace;
     SettingsStore& settings;
@@ -48,7 +48,7 @@ class StudySession {
 
   [[nodiscard]] bool IsRunning() const { return running_; }
 
- private:
+private:
   void OpenSession();
   void BeginBySection();
   void BeginBySubject();

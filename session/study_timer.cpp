@@ -58,7 +58,9 @@ void StudyTimer::Start() {
   sessionStart_ = savedAt_.time();
 }
 
-void StudyTimer::Stop() { view_.StopTestTimer(); }
+void StudyTimer::Stop() {
+  view_.StopTestTimer();
+}
 
 void StudyTimer::Tick() {
   if (state_.Selection.Method != kByExamSection) {

@@ -28,7 +28,7 @@ inline constexpr std::int32_t kSectionLimitSeconds = 10800;
 // Measures the study time of a section while a session by exam section runs, shows it, warns once
 // when three hours are used up, and keeps it in the settings.
 class StudyTimer {
- public:
+public:
   StudyTimer(ProgramState& state, SettingsStore& settings, Clock& clock, MessageBoxes& boxes,
              MainWindowView& view);
 
@@ -42,7 +42,7 @@ class StudyTimer {
   // Stores the time that was shown last. A session without one leaves the stored time.
   void SaveSectionTime();
 
- private:
+private:
   void ShowRemaining();
   void SaveNowAndThen();
 

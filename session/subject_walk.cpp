@@ -17,10 +17,12 @@ void SubjectWalk::ForceEnd() {
   Steps = kLeastStepsToEnd;
 }
 
-bool SubjectWalk::WentAroundInVain() const { return TablesSinceQuestion >= kTableCount; }
+bool SubjectWalk::WentAroundInVain() const {
+  return TablesSinceQuestion >= kTableCount;
+}
 
-bool NothingLeftAtCheckpoint(std::int16_t questionType, std::int16_t skipped,
-                             std::int16_t answered, std::int16_t answeredCorrectly) {
+bool NothingLeftAtCheckpoint(std::int16_t questionType, std::int16_t skipped, std::int16_t answered,
+                             std::int16_t answeredCorrectly) {
   return questionType == kUnansweredQuestions ? skipped == 0 : answered == answeredCorrectly;
 }
 

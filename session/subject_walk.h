@@ -14,9 +14,9 @@ struct SubjectWalk {
   static constexpr std::int16_t kLeastStepsToEnd = 2;
 
   std::int16_t Position = 0;
-  std::int16_t Steps = 0;                    // moves since the session began
-  std::int16_t Skipped = 0;                  // questions skipped since the last checkpoint
-  std::int16_t TablesSinceQuestion = 0;      // moves since a question was shown
+  std::int16_t Steps = 0;                // moves since the session began
+  std::int16_t Skipped = 0;              // questions skipped since the last checkpoint
+  std::int16_t TablesSinceQuestion = 0;  // moves since a question was shown
 
   // Counts the move away from `table`. Raises 6 when the steps leave the 16-bit range.
   void CountMove(const QString& table);

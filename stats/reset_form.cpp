@@ -135,7 +135,9 @@ void frmResetChoices::ShowProgress() {
   progress_->ShowAndRepaint();
 }
 
-void frmResetChoices::ShowStatistics() { statistics_.show(); }
+void frmResetChoices::ShowStatistics() {
+  statistics_.show();
+}
 
 void frmResetChoices::UnloadForms() {
   progress_.reset();

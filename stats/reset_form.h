@@ -22,7 +22,7 @@ class ProgressForm;
 class frmResetChoices : public QDialog, public ResetView {
   Q_OBJECT
 
- public:
+public:
   frmResetChoices(Program& program, ErrorBoundary& errors, QDialog& statistics);
   ~frmResetChoices() override;
 
@@ -31,7 +31,7 @@ class frmResetChoices : public QDialog, public ResetView {
   void ShowStatistics() override;
   void UnloadForms() override;
 
- private:
+private:
   static constexpr std::size_t kScopeCount = 5;
   using ScopeButtons = std::array<QRadioButton*, kScopeCount>;
 

@@ -17,7 +17,9 @@ QString GroupName(std::uint8_t group) {
   return group == kTutorialMode ? u"Tutorial Mode"_s : u"Evaluation Mode"_s;
 }
 
-QString ShoutedGroupName(std::uint8_t group) { return GroupName(group).toUpper(); }
+QString ShoutedGroupName(std::uint8_t group) {
+  return GroupName(group).toUpper();
+}
 
 }  // namespace
 
@@ -87,8 +89,7 @@ QStringList AllTimerKeys(std::uint8_t group) {
   QStringList keys;
   for (int exam = 0; exam < kExamCount; ++exam) {
     for (int section = 0; section < kPartCount; ++section) {
-      const bool misnamed =
-          group != kTutorialMode && exam == 0 && section == kPartCount - 1;
+      const bool misnamed = group != kTutorialMode && exam == 0 && section == kPartCount - 1;
       keys.append(NamedTimerKey(kNewestExamYear - exam + (misnamed ? 1 : 0), section));
     }
   }

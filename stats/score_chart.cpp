@@ -17,7 +17,7 @@ constexpr int kGoodScore = 70;
 
 // Paints the cell's percentage as a bar on a scale from 0 to 100.
 class BarDelegate : public QStyledItemDelegate {
- public:
+public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -63,8 +63,7 @@ ScoreChart::ScoreChart(const QString& name, const QString& heading,
   for (int row = 0; row < rowCount(); ++row) {
     const ScoreFigure& figure = figures[static_cast<std::size_t>(row)];
     // A part never asked has no score, which is not the same as a score of nothing.
-    const QString score =
-        figure.Asked < 1 ? u"not asked"_s : QString::number(figure.Score) + u'%';
+    const QString score = figure.Asked < 1 ? u"not asked"_s : QString::number(figure.Score) + u'%';
     setItem(row, kNameColumn, NewCell(figure.Name, Qt::AlignLeft));
     QTableWidgetItem* bar = NewCell({}, Qt::AlignLeft);
     bar->setData(Qt::UserRole, figure.Score);

@@ -14,7 +14,7 @@ namespace tessaly {
 class ScoreChart : public QTableWidget {
   Q_OBJECT
 
- public:
+public:
   ScoreChart(const QString& name, const QString& heading, const std::vector<ScoreFigure>& figures,
              QWidget* parent);
 };

@@ -56,9 +56,9 @@ void frmStats::BuildReport() {
   list_->addItems(report_.Lines);
   const QFontMetrics metrics = list_->fontMetrics();
   const int columns = kSubjectNameColumns + 30;
-  list_->setMinimumSize(columns * metrics.horizontalAdvance(u'0') +
-                            list_->verticalScrollBar()->sizeHint().width(),
-                        kVisibleRows * metrics.height());
+  list_->setMinimumSize(
+      columns * metrics.horizontalAdvance(u'0') + list_->verticalScrollBar()->sizeHint().width(),
+      kVisibleRows * metrics.height());
 }
 
 void frmStats::BuildCharts(QLayout* beside) {

@@ -19,12 +19,12 @@ class Program;
 class frmStats : public QDialog {
   Q_OBJECT
 
- public:
+public:
   frmStats(Program& program, ErrorBoundary& errors, QWidget* parent);
 
   [[nodiscard]] const StatisticsReport& Report() const { return report_; }
 
- private:
+private:
   void BuildReport();
   void BuildCharts(QLayout* beside);
   void BuildButtons(QVBoxLayout* column);

@@ -36,14 +36,15 @@ QString Padded(int width, std::int16_t number) {
   return Pad(width, number) + QString::number(number);
 }
 
-QString PrintLine(const QString& line) { return Spaces(kPrintIndent) + line + kLineEnd; }
+QString PrintLine(const QString& line) {
+  return Spaces(kPrintIndent) + line + kLineEnd;
+}
 
 QStringList SectionHeader() {
   return {u"Exam"_s + Spaces(15) + u"Number"_s + Spaces(3) + u"Number"_s + Spaces(6) +
               u"Possible"_s + Spaces(4) + u"Actual"_s + Spaces(5) + u"Score"_s,
-          u"Year"_s + Spaces(3) + u"Section"_s + Spaces(5) + u"Asked"_s + Spaces(4) +
-              u"Correct"_s + Spaces(6) + u"Score"_s + Spaces(6) + u"Score"_s + Spaces(4) +
-              u"Percentage"_s};
+          u"Year"_s + Spaces(3) + u"Section"_s + Spaces(5) + u"Asked"_s + Spaces(4) + u"Correct"_s +
+              Spaces(6) + u"Score"_s + Spaces(6) + u"Score"_s + Spaces(4) + u"Percentage"_s};
 }
 
 QStringList SubjectHeader() {
@@ -61,7 +62,7 @@ QString CaptionOf(std::uint8_t mode) {
 
 // Adds lines to the list and, where they belong to one, to their print block.
 class ReportWriter {
- public:
+public:
   explicit ReportWriter(StatisticsReport& report) : report_(report) {}
 
   void AddBlank() { report_.Lines.append(QString()); }
@@ -80,7 +81,7 @@ class ReportWriter {
     block += PrintLine(row);
   }
 
- private:
+private:
   StatisticsReport& report_;
 };
 
@@ -93,8 +94,7 @@ void AddSections(StatisticsReport& report, ReportWriter& writer, const Database&
     for (int section = 0; section < kPartCount; ++section) {
       const ExamEntry& examEntry = kExams[static_cast<std::size_t>(exam)];
       const PartEntry& part = kParts[static_cast<std::size_t>(section)];
-      const SectionTally tally =
-          CountSectionStats(answers, *TableOf(exam, section), section, mode);
+      const SectionTally tally = CountSectionStats(answers, *TableOf(exam, section), section, mode);
       writer.AddRow(SectionRow(examEntry.year, part.paddedCaption, tally),
                     report.Blocks.PrintSectionRows);
       report.Sections.push_back(
@@ -150,8 +150,7 @@ StatisticsReport BuildStatisticsReport(const ProgramState& state, Workspace& wor
   report.Blocks.PrintModeHeading =
       QString(kLineEnd) + kLineEnd + Spaces(10) + report.Caption + kLineEnd;
   ReportWriter writer(report);
-  const Database answers =
-      workspace.OpenDatabase(state.Paths.AnswersDbPath, state.Paths.DbConnect);
+  const Database answers = workspace.OpenDatabase(state.Paths.AnswersDbPath, state.Paths.DbConnect);
   AddSections(report, writer, answers, state.Selection.Mode);
   AddSubjects(report, writer, state.Subjects);
   return report;

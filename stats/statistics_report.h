@@ -32,8 +32,8 @@ struct ScoreFigure {
 
 // The statistics of one study mode, taken when they are built and never refreshed.
 struct StatisticsReport {
-  QString Caption;     // names the mode
-  QStringList Lines;   // for a fixed-pitch font; a blank entry is an empty text
+  QString Caption;    // names the mode
+  QStringList Lines;  // for a fixed-pitch font; a blank entry is an empty text
   PrintBlocks Blocks;
   std::vector<ScoreFigure> Sections;  // all 24, in catalogue order
   std::vector<ScoreFigure> Subjects;  // those asked at least once, in stored order

@@ -18,37 +18,39 @@ namespace tessaly {
 
 namespace {
 
-bool EveryQuestion(int /*questionNo*/) { return true; }
+bool EveryQuestion(int /*questionNo*/) {
+  return true;
+}
 
 // Sets the busy pointer for as long as it lives.
 class BusyPointer {
- public:
+public:
   explicit BusyPointer(ResetView& view) : view_(view) { view_.SetBusyPointer(true); }
   BusyPointer(const BusyPointer&) = delete;
   BusyPointer& operator=(const BusyPointer&) = delete;
   ~BusyPointer() { view_.SetBusyPointer(false); }
 
- private:
+private:
   ResetView& view_;
 };
 
 // Gives the study selection its own mode back, whatever happens.
 class KeepMode {
- public:
+public:
   explicit KeepMode(StudySelection& selection) : selection_(selection), mode_(selection.Mode) {}
   KeepMode(const KeepMode&) = delete;
   KeepMode& operator=(const KeepMode&) = delete;
   ~KeepMode() { selection_.Mode = mode_; }
 
- private:
+private:
   StudySelection& selection_;
   std::uint8_t mode_;
 };
 
 }  // namespace
 
-StatisticsReset::StatisticsReset(ProgramState& state, SettingsStore& settings,
-                                 Workspace& workspace, MessageBoxes& boxes, ResetView& view)
+StatisticsReset::StatisticsReset(ProgramState& state, SettingsStore& settings, Workspace& workspace,
+                                 MessageBoxes& boxes, ResetView& view)
     : state_(state), settings_(settings), workspace_(workspace), boxes_(boxes), view_(view) {}
 
 void StatisticsReset::Run(const ResetChoices& choices) {
@@ -82,12 +84,11 @@ StatisticsReset::Outcome StatisticsReset::RunChoices() {
     ResetEverything();
     return Outcome::Done;
   }
-  for (const auto& step :
-       {std::function([this] { return ResetExams(kTutorialMode); }),
-        std::function([this] { return ResetExams(kEvaluationMode); }),
-        std::function([this] { return ResetMissedQuestions(); }),
-        std::function([this] { return ResetSubjects(kTutorialMode); }),
-        std::function([this] { return ResetSubjects(kEvaluationMode); })}) {
+  for (const auto& step : {std::function([this] { return ResetExams(kTutorialMode); }),
+                           std::function([this] { return ResetExams(kEvaluationMode); }),
+                           std::function([this] { return ResetMissedQuestions(); }),
+                           std::function([this] { return ResetSubjects(kTutorialMode); }),
+                           std::function([this] { return ResetSubjects(kEvaluationMode); })}) {
     if (step() == Outcome::EndedByNo) {
       return Outcome::EndedByNo;
     }

@@ -26,7 +26,7 @@ struct ResetChoices {
 
 // The windows as the reset sees them.
 class ResetView {
- public:
+public:
   ResetView() = default;
   ResetView(const ResetView&) = delete;
   ResetView& operator=(const ResetView&) = delete;
@@ -48,7 +48,7 @@ class ResetView {
 // was chosen: the group decides timers, subject counters and wording. Each table's rows change in
 // one transaction.
 class StatisticsReset {
- public:
+public:
   StatisticsReset(ProgramState& state, SettingsStore& settings, Workspace& workspace,
                   MessageBoxes& boxes, ResetView& view);
 
@@ -57,7 +57,7 @@ class StatisticsReset {
   // Asked when the box of missed questions becomes checked; a No brings the statistics form back.
   void ConfirmAllDifficult();
 
- private:
+private:
   enum class Outcome { Done, EndedByNo };
 
   void ResetEverything();

@@ -38,8 +38,8 @@ void LoadSubjectStats(Workspace& workspace, const BankPaths& paths, std::uint8_t
                       SubjectStatistics& subjects);
 
 // Writes the totals of subject `index` into the current row of "SubjectStats".
-void WriteSubjectTotals(Recordset& subjectStats, const SubjectColumns& columns,
-                        std::int16_t asked, std::int16_t correct);
+void WriteSubjectTotals(Recordset& subjectStats, const SubjectColumns& columns, std::int16_t asked,
+                        std::int16_t correct);
 
 // The index of a subject text, or kUnknownSubject.
 [[nodiscard]] std::int16_t FindSubject(const SubjectStatistics& subjects, const QString& subject);

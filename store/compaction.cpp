@@ -62,7 +62,9 @@ void Compaction::RequireBothFiles() const {
   }
 }
 
-QString Compaction::NotePath() const { return QDir(paths_.ProgramFolder).filePath(kNoteName); }
+QString Compaction::NotePath() const {
+  return QDir(paths_.ProgramFolder).filePath(kNoteName);
+}
 
 Compaction::Copies Compaction::InterruptedCopies() const {
   QFile note(NotePath());

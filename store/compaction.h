@@ -13,7 +13,7 @@ namespace tessaly {
 // Between the first deletion and the last renaming a note in the program folder says where the
 // copies lie, because the next start may have another working directory.
 class Compaction {
- public:
+public:
   Compaction(Workspace& workspace, FileOperations& files, const BankPaths& paths);
 
   // No database object may be open on either file. An interrupted compaction is finished first.
@@ -25,7 +25,7 @@ class Compaction {
   // where nothing was cut off.
   void FinishInterrupted();
 
- private:
+private:
   struct Copies {
     QString questions;
     QString answers;

@@ -113,7 +113,9 @@ Statement& Statement::operator=(Statement&& other) noexcept {
   return *this;
 }
 
-Statement::~Statement() { sqlite3_finalize(statement_); }
+Statement::~Statement() {
+  sqlite3_finalize(statement_);
+}
 
 void Statement::Bind(const std::vector<QVariant>& values) {
   Reset();
@@ -162,7 +164,9 @@ void Statement::Reset() {
   static_cast<void>(sqlite3_reset(statement_));
 }
 
-int Statement::ColumnCount() const { return sqlite3_column_count(statement_); }
+int Statement::ColumnCount() const {
+  return sqlite3_column_count(statement_);
+}
 
 QString Statement::ColumnName(int column) const {
   return QString::fromUtf8(sqlite3_column_name(statement_, column));
@@ -177,8 +181,8 @@ QVariant Statement::Column(int column) const {
     case SQLITE_FLOAT:
       return sqlite3_column_double(statement_, column);
     default: {
-      const auto* text =
-          static_cast<const char*>(static_cast<const void*>(sqlite3_column_text(statement_, column)));
+      const auto* text = static_cast<const char*>(
+          static_cast<const void*>(sqlite3_column_text(statement_, column)));
       return QString::fromUtf8(text, sqlite3_column_bytes(statement_, column));
     }
   }
@@ -225,9 +229,13 @@ Statement Connection::Prepare(const QString& sql) {
   return {database_, statement, path_};
 }
 
-void Connection::Execute(const QString& sql) { Prepare(sql).Run(); }
+void Connection::Execute(const QString& sql) {
+  Prepare(sql).Run();
+}
 
-bool Connection::InTransaction() const { return sqlite3_get_autocommit(database_) == 0; }
+bool Connection::InTransaction() const {
+  return sqlite3_get_autocommit(database_) == 0;
+}
 
 bool Connection::IsIntact() {
   Statement check = Prepare(sql::kIntegrityCheck);

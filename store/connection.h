@@ -14,7 +14,7 @@ namespace tessaly {
 // A prepared statement of one connection; it must not outlive it. Values are text (QString), whole
 // numbers (qlonglong), fractions (double) or Null (an invalid QVariant).
 class Statement {
- public:
+public:
   Statement(Statement&& other) noexcept;
   Statement& operator=(Statement&& other) noexcept;
   Statement(const Statement&) = delete;
@@ -35,7 +35,7 @@ class Statement {
   [[nodiscard]] QVariant Column(int column) const;
   [[nodiscard]] qlonglong ColumnNumber(int column) const;
 
- private:
+private:
   friend class Connection;
   Statement(sqlite3* database, sqlite3_stmt* statement, QString path);
 
@@ -47,7 +47,7 @@ class Statement {
 // One open, exclusively held, password-protected database file. The only class that knows the
 // engine's C interface. Every failure is raised as a RuntimeError whose detail is the file's path.
 class Connection {
- public:
+public:
   enum class Access {
     OpenExisting,  // the file must be there
     CreateNew,     // the file must not be there
@@ -69,7 +69,7 @@ class Connection {
   // True when the engine finds every page authentic and every table and index sound.
   [[nodiscard]] bool IsIntact();
 
- private:
+private:
   void Unlock(const QString& password);
   void TakeExclusiveLock();
 

@@ -81,9 +81,13 @@ QString SingleText(float value) {
   return QString::number(static_cast<double>(value), 'g', kDigits);
 }
 
-std::int16_t RoundToInteger(double value) { return ToWhole<std::int16_t>(value, {}); }
+std::int16_t RoundToInteger(double value) {
+  return ToWhole<std::int16_t>(value, {});
+}
 
-std::int32_t RoundToLong(double value) { return ToWhole<std::int32_t>(value, {}); }
+std::int32_t RoundToLong(double value) {
+  return ToWhole<std::int32_t>(value, {});
+}
 
 std::int16_t CheckedAdd(std::int16_t counter, std::int16_t step) {
   return ToWhole<std::int16_t>(static_cast<double>(counter) + step, {});

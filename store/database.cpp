@@ -69,9 +69,13 @@ void Database::RequireTable(const QString& name) const {
   }
 }
 
-const QString& Database::Path() const { return connection_->Path(); }
+const QString& Database::Path() const {
+  return connection_->Path();
+}
 
-bool Database::IsIntact() const { return connection_->IsIntact(); }
+bool Database::IsIntact() const {
+  return connection_->IsIntact();
+}
 
 Transaction::Transaction(const Database& database) : connection_(database.connection_) {
   connection_->Execute(sql::kBegin);
@@ -89,7 +93,9 @@ Transaction::~Transaction() {
   }
 }
 
-void Transaction::Commit() { connection_->Execute(sql::kCommit); }
+void Transaction::Commit() {
+  connection_->Execute(sql::kCommit);
+}
 
 Database Workspace::OpenDatabase(const QString& path, const QString& connect) {
   const QString key = QFileInfo(path).canonicalFilePath();

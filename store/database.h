@@ -18,7 +18,7 @@ class Connection;
 // One opening of a database file. Copies refer to the same opening; the file is let go when the
 // last of them, and the last recordset opened through them, is gone.
 class Database {
- public:
+public:
   // All rows of the table in stored order. Raises 3078 when the file has no such table.
   [[nodiscard]] Recordset OpenTable(const QString& name) const;
   // `query` is "SELECT * FROM " followed by a table name, unquoted. Raises 3078, or 3075 for any
@@ -33,7 +33,7 @@ class Database {
   [[nodiscard]] const QString& Path() const;
   [[nodiscard]] bool IsIntact() const;
 
- private:
+private:
   friend class Workspace;
   friend class Transaction;
   explicit Database(std::shared_ptr<Connection> connection);
@@ -45,7 +45,7 @@ class Database {
 // The changes made through a database while a transaction lives reach the disk together, when
 // Commit returns, or not at all. Rolls back when it is destroyed uncommitted.
 class Transaction {
- public:
+public:
   explicit Transaction(const Database& database);
   Transaction(const Transaction&) = delete;
   Transaction& operator=(const Transaction&) = delete;
@@ -53,7 +53,7 @@ class Transaction {
 
   void Commit();
 
- private:
+private:
   std::shared_ptr<Connection> connection_;
 };
 
@@ -61,7 +61,7 @@ class Transaction {
 // is shut out (error 70), while several openings within this workspace share one connection,
 // because the locks belong to the process and would be lost with the first of two connections.
 class Workspace {
- public:
+public:
   // `connect` is ";pwd=" followed by the password. Raises 53, 70, 3031 or 3343; see Connection.
   [[nodiscard]] Database OpenDatabase(const QString& path, const QString& connect);
 
@@ -70,7 +70,7 @@ class Workspace {
   // no part of it is left.
   void CompactDatabase(const QString& source, const QString& target, const QString& connect);
 
- private:
+private:
   std::map<QString, std::weak_ptr<Connection>> openFiles_;
 };
 

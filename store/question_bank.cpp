@@ -15,15 +15,21 @@ void BuildDatabasePaths(BankPaths& paths) {
   paths.DbConnect = u";pwd="_s + kPassword;
 }
 
-QString QuestionTextCriterion(int questionNo) { return u"QuestionNo = '%1'"_s.arg(questionNo); }
+QString QuestionTextCriterion(int questionNo) {
+  return u"QuestionNo = '%1'"_s.arg(questionNo);
+}
 
-QString QuestionStatusCriterion(int questionNo) { return u"QuestionNo = %1"_s.arg(questionNo); }
+QString QuestionStatusCriterion(int questionNo) {
+  return u"QuestionNo = %1"_s.arg(questionNo);
+}
 
 QString SubjectFilter(const QString& subject) {
   return u"Subject = "_s + sql::QuotedText(subject);
 }
 
-QString SelectAllFrom(const QString& table) { return u"SELECT * FROM "_s + table; }
+QString SelectAllFrom(const QString& table) {
+  return u"SELECT * FROM "_s + table;
+}
 
 QString ReadTableVersion(Workspace& workspace, const BankPaths& paths) {
   const Database questions = workspace.OpenDatabase(paths.QuestionsDbPath, paths.DbConnect);

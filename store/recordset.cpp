@@ -56,7 +56,9 @@ Recordset& Recordset::operator=(Recordset&& other) noexcept {
 
 Recordset::~Recordset() = default;
 
-Recordset Recordset::OpenRecordset() const { return {connection_, table_, filter_, sort_}; }
+Recordset Recordset::OpenRecordset() const {
+  return {connection_, table_, filter_, sort_};
+}
 
 void Recordset::MoveFirst() {
   if (rowIds_.empty()) {
@@ -79,8 +81,7 @@ void Recordset::SetAbsolutePosition(qsizetype position) {
 
 void Recordset::FindFirst(const QString& criterion) {
   qsizetype found = RecordCount();
-  for (const qint64 rowId :
-       ReadRowIds(*connection_, sql::SelectRowIds(table_, criterion, {}))) {
+  for (const qint64 rowId : ReadRowIds(*connection_, sql::SelectRowIds(table_, criterion, {}))) {
     const auto match = std::find(rowIds_.begin(), rowIds_.end(), rowId);
     found = std::min<qsizetype>(found, std::distance(rowIds_.begin(), match));
   }
@@ -101,9 +102,13 @@ QVariant Recordset::Value(const QString& field) {
   return (*row_)[index];
 }
 
-QString Recordset::Text(const QString& field) { return Value(field).toString(); }
+QString Recordset::Text(const QString& field) {
+  return Value(field).toString();
+}
 
-std::int16_t Recordset::Integer(const QString& field) { return ToInteger(Value(field), field); }
+std::int16_t Recordset::Integer(const QString& field) {
+  return ToInteger(Value(field), field);
+}
 
 void Recordset::Edit() {
   LoadRow();
@@ -150,7 +155,9 @@ void Recordset::Update() {
   row_.reset();
 }
 
-void Recordset::CancelUpdate() { edits_.reset(); }
+void Recordset::CancelUpdate() {
+  edits_.reset();
+}
 
 void Recordset::RequireCurrentRow() const {
   if (EndOfFile()) {

@@ -23,7 +23,7 @@ class Statement;
 //
 // Moving, editing or reading without a current row raises 3021, an unknown field 3265.
 class Recordset {
- public:
+public:
   Recordset(Recordset&&) noexcept;
   Recordset& operator=(Recordset&&) noexcept;
   ~Recordset();
@@ -63,7 +63,7 @@ class Recordset {
   void Update();
   void CancelUpdate();
 
- private:
+private:
   friend class Database;
   Recordset(std::shared_ptr<Connection> connection, QString table, const QString& filter,
             const QString& sort);

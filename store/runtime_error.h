@@ -36,7 +36,7 @@ enum class ErrorNumber : int {
 // Raised for misuse and failure in everything below the windows. Caught in one place, the command
 // boundary of the windows (app/error_boundary.h), which tells the user and abandons the command.
 class RuntimeError : public std::exception {
- public:
+public:
   // `detail` names the file, field or value concerned; it may be empty.
   explicit RuntimeError(ErrorNumber number, QString detail = {});
 
@@ -45,7 +45,7 @@ class RuntimeError : public std::exception {
   [[nodiscard]] const QString& Detail() const { return detail_; }
   [[nodiscard]] const char* what() const noexcept override { return what_.constData(); }
 
- private:
+private:
   ErrorNumber number_;
   QString detail_;
   QByteArray what_;

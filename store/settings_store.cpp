@@ -14,7 +14,9 @@ namespace tessaly {
 
 namespace {
 
-QString Address(const QString& section, const QString& key) { return section + u'/' + key; }
+QString Address(const QString& section, const QString& key) {
+  return section + u'/' + key;
+}
 
 // The settings library keeps a change that it could not write, tries again when it is closed, and
 // never takes back that it failed. So both checks come before it is told of a change.
@@ -32,7 +34,7 @@ void RequireWritable(const QString& path) {
 void RequireRoomFor(const QString& path) {
   const QFileInfo file(path);
   const QStorageInfo volume(file.absolutePath());
-  constexpr qint64 kSpareBytes = 64 * 1024;
+  constexpr qint64 kSpareBytes = qint64{64} * 1024;
   if (volume.isValid() && volume.bytesAvailable() < file.size() + kSpareBytes) {
     throw RuntimeError(ErrorNumber::DiskFull, path);
   }

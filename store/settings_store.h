@@ -20,7 +20,7 @@ inline constexpr QLatin1StringView kEvaluationTimer{"ETimer"};
 // The user's settings: texts addressed by section and key. What is written is on the disk when the
 // call returns.
 class SettingsStore {
- public:
+public:
   SettingsStore() = default;
   SettingsStore(const SettingsStore&) = delete;
   SettingsStore& operator=(const SettingsStore&) = delete;
@@ -38,7 +38,7 @@ class SettingsStore {
 // An INI file with a group for each section, "Tessaly - 2002 Edition.ini" in the user's
 // configuration folder.
 class IniSettingsStore : public SettingsStore {
- public:
+public:
   // `path` of the file, which may not exist yet. Raises 321 where the file is there and is no
   // settings file.
   explicit IniSettingsStore(const QString& path);
@@ -50,7 +50,7 @@ class IniSettingsStore : public SettingsStore {
 
   [[nodiscard]] static QString DefaultPath();
 
- private:
+private:
   // An invalid value deletes.
   void Change(const QString& address, const QVariant& value);
   void Put(const QString& address, const QVariant& value);

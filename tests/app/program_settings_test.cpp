@@ -10,7 +10,7 @@ namespace tessaly::test {
 namespace {
 
 class ProgramSettingsTest : public ProgramTest {
- protected:
+protected:
   void Load() { program.Settings().LoadSettings(); }
 };
 
@@ -35,12 +35,12 @@ TEST_F(ProgramSettingsTest, AnEmptyModeResetsTheSelectionAndWritesItWhole) {
   Choose(u"Mode"_s, u""_s);
   Choose(u"Exam"_s, u"4"_s);
   Load();
-  EXPECT_EQ(settings.writes,
-            (QStringList{u"StudyMode/Mode=0"_s, u"StudyMode/Method=0"_s, u"StudyMode/Subject="_s,
-                         u"StudyMode/QuestionType=0"_s, u"StudyMode/Exam=0"_s,
-                         u"StudyMode/Section=0"_s, u"StudyMode/Subject="_s,
-                         u"StudyMode/ExamString=2001 Examination"_s, u"StudyMode/Year=01"_s,
-                         u"StudyMode/SectionString=Part I (Individual)"_s}));
+  EXPECT_EQ(
+      settings.writes,
+      (QStringList{u"StudyMode/Mode=0"_s, u"StudyMode/Method=0"_s, u"StudyMode/Subject="_s,
+                   u"StudyMode/QuestionType=0"_s, u"StudyMode/Exam=0"_s, u"StudyMode/Section=0"_s,
+                   u"StudyMode/Subject="_s, u"StudyMode/ExamString=2001 Examination"_s,
+                   u"StudyMode/Year=01"_s, u"StudyMode/SectionString=Part I (Individual)"_s}));
   EXPECT_EQ(State().Selection.SectionString, u"Part I (Individual)"_s);
   EXPECT_EQ(State().Selection.Year, u"01"_s);
 }

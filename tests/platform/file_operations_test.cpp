@@ -15,6 +15,8 @@ using namespace Qt::StringLiterals;
 namespace tessaly::test {
 namespace {
 
+constexpr qsizetype kKibibyte = 1024;
+
 class FileOperationsTest : public ::testing::Test {
 protected:
   void Put(const QString& name, const QByteArray& content) { WriteBytes(Path(name), content); }
@@ -74,7 +76,7 @@ TEST_F(FileOperationsTest, WriteNeedsAFolder) {
 
 TEST_F(FileOperationsTest, ACopyIsTheSameAndTellsOfEachBlock) {
   const std::pair<qsizetype, int> cases[] = {
-      {0, 0}, {1, 1}, {128 * 1024, 1}, {128 * 1024 + 1, 2}, {400 * 1024, 4}};
+      {0, 0}, {1, 1}, {128 * kKibibyte, 1}, {128 * kKibibyte + 1, 2}, {400 * kKibibyte, 4}};
   for (const auto& [bytes, blocks] : cases) {
     SCOPED_TRACE(bytes);
     Put(u"source"_s, QByteArray(bytes, 's'));
@@ -101,7 +103,7 @@ TEST_F(FileOperationsTest, FlushingAMissingFileSaysSo) {
 }
 
 TEST_F(FileOperationsTest, ACopyReachesTheDiskBlockByBlock) {
-  constexpr qsizetype kBlockBytes = 128 * 1024;
+  constexpr qsizetype kBlockBytes = 128 * kKibibyte;
   for (const qsizetype bytes : {qsizetype{0}, qsizetype{1}, kBlockBytes, 2 * kBlockBytes + 1}) {
     SCOPED_TRACE(bytes);
     const QByteArray content(bytes, 'x');
@@ -159,7 +161,7 @@ TEST_F(OtherVolumeTest, AMissingFileIsNotFoundFromThereEither) {
 }
 
 TEST_F(OtherVolumeTest, AMoveOntoAFullVolumeLeavesBothFiles) {
-  Put(u"new"_s, QByteArray(100 * 1024, 'x'));
+  Put(u"new"_s, QByteArray(100 * kKibibyte, 'x'));
   WriteBytes(OtherPath(u"old"_s), "old");
   EXPECT_RUNTIME_ERROR(files.Move(Path(u"new"_s), OtherPath(u"old"_s)), ErrorNumber::DiskFull);
   EXPECT_EQ(Names(), QStringList{u"new"_s});
@@ -168,7 +170,7 @@ TEST_F(OtherVolumeTest, AMoveOntoAFullVolumeLeavesBothFiles) {
 }
 
 TEST_F(OtherVolumeTest, ACopyOntoAFullVolumeLeavesNoPart) {
-  Put(u"source"_s, QByteArray(300 * 1024, 's'));
+  Put(u"source"_s, QByteArray(300 * kKibibyte, 's'));
   EXPECT_RUNTIME_ERROR(files.Copy(Path(u"source"_s), OtherPath(u"copy"_s), [] {}),
                        ErrorNumber::DiskFull);
   EXPECT_EQ(OtherNames(), QStringList());
@@ -177,7 +179,7 @@ TEST_F(OtherVolumeTest, ACopyOntoAFullVolumeLeavesNoPart) {
 TEST_F(OtherVolumeTest, AWriteOnAFullVolumeKeepsTheOldContent) {
   files.Write(OtherPath(u"note"_s), "old");
   disk.Fill();
-  for (const qsizetype bytes : {1, 100, 100 * 1024}) {
+  for (const qsizetype bytes : {qsizetype{1}, qsizetype{100}, 100 * kKibibyte}) {
     SCOPED_TRACE(bytes);
     EXPECT_RUNTIME_ERROR(files.Write(OtherPath(u"note"_s), QByteArray(bytes, 'x')),
                          ErrorNumber::DiskFull);
@@ -187,7 +189,7 @@ TEST_F(OtherVolumeTest, AWriteOnAFullVolumeKeepsTheOldContent) {
 }
 
 TEST_F(OtherVolumeTest, ACopyThatFindsNoRoomLeavesNoPartOfIt) {
-  Put(u"from"_s, QByteArray(100 * 1024, 'x'));
+  Put(u"from"_s, QByteArray(100 * kKibibyte, 'x'));
   EXPECT_RUNTIME_ERROR(files.Copy(Path(u"from"_s), OtherPath(u"to"_s), [] {}),
                        ErrorNumber::DiskFull);
   EXPECT_EQ(OtherNames(), QStringList());

@@ -102,8 +102,9 @@ TEST(GradingTest, FullCountersOverflow) {
 }
 
 TEST(FeedbackTextsTest, NameTheAnswersOfBothKinds) {
-  EXPECT_EQ(IncorrectFeedback(u"True"_s, 7, AnswerName(1, true)),
-            u"     'True' is an incorrect answer for Question #7.  The correct answer is 'False'."_s);
+  EXPECT_EQ(
+      IncorrectFeedback(u"True"_s, 7, AnswerName(1, true)),
+      u"     'True' is an incorrect answer for Question #7.  The correct answer is 'False'."_s);
   EXPECT_EQ(CorrectFeedback(AnswerName(3, false), 80),
             u"     Nice Job!  'D' is the correct answer for Question #80!"_s);
   EXPECT_EQ(AnswerName(2, true), u""_s);

@@ -13,13 +13,11 @@ constexpr std::int16_t kRight = 0;
 constexpr std::int16_t kWrong = 1;
 
 class StudySessionTest : public ProgramTest {
- protected:
+protected:
   StudySessionTest() { bank.AddQuestions(u"01Part1"_s, 1, 3, TestBank::SubjectName(5)); }
 
   void Answer(std::int16_t chosen) { Session().GradeAnswer(chosen); }
-  [[nodiscard]] QString Row(int no) {
-    return bank.StatusRow(u"01Part1"_s, no);
-  }
+  [[nodiscard]] QString Row(int no) { return bank.StatusRow(u"01Part1"_s, no); }
 };
 
 TEST_F(StudySessionTest, BeginShowsTheFirstQuestionAndEntersRunning) {
@@ -59,8 +57,9 @@ TEST_F(StudySessionTest, ACorrectAnswerIsWrittenCountedAndPraised) {
 TEST_F(StudySessionTest, AWrongAnswerNamesTheCorrectOne) {
   Begin();
   Answer(kWrong);
-  EXPECT_EQ(Feedback(),
-            u"     'False' is an incorrect answer for Question #1.  The correct answer is 'True'."_s);
+  EXPECT_EQ(
+      Feedback(),
+      u"     'False' is an incorrect answer for Question #1.  The correct answer is 'True'."_s);
   EXPECT_EQ(view.feedbackColour, BoxColour::Red);
   EXPECT_TRUE(view.commands.at(Command::mnuFileResearch));
   Session().EndSession();
@@ -243,9 +242,9 @@ TEST_F(StudySessionTest, FourChoicesBeginAfterTheTrueFalseQuestions) {
     int no;
     bool trueFalse;
   };
-  for (const Case& c : {Case{u"01Part1"_s, u"0"_s, 20, true}, Case{u"01Part1"_s, u"0"_s, 21, false},
-                        Case{u"01Part4"_s, u"3"_s, 40, true},
-                        Case{u"01Part4"_s, u"3"_s, 41, false}}) {
+  for (const Case& c :
+       {Case{u"01Part1"_s, u"0"_s, 20, true}, Case{u"01Part1"_s, u"0"_s, 21, false},
+        Case{u"01Part4"_s, u"3"_s, 40, true}, Case{u"01Part4"_s, u"3"_s, 41, false}}) {
     bank.RunOnAnswers(u"DELETE FROM \"%1\""_s.arg(c.table));
     bank.AddQuestions(c.table, c.no, c.no, TestBank::SubjectName(1));
     Choose(u"Section"_s, c.section);
@@ -269,7 +268,7 @@ TEST_F(StudySessionTest, RowsComeInNumberOrderWhateverTheirOrderInTheTable) {
 }
 
 class EvaluationTest : public StudySessionTest {
- protected:
+protected:
   EvaluationTest() { Choose(u"Mode"_s, u"1"_s); }
 };
 
@@ -328,7 +327,8 @@ TEST_F(EvaluationTest, TheLastAnswerEndsTheSessionWithItsMessageOnce) {
 }
 
 TEST_F(EvaluationTest, MissedBySectionAsksForWhatEitherModeFailed) {
-  bank.RunOnAnswers(u"UPDATE \"01Part1\" SET EvalMode = 'C', PassFail = 'F' WHERE QuestionNo = 2"_s);
+  bank.RunOnAnswers(
+      u"UPDATE \"01Part1\" SET EvalMode = 'C', PassFail = 'F' WHERE QuestionNo = 2"_s);
   Choose(u"QuestionType"_s, u"1"_s);
   Begin();
   EXPECT_EQ(Question(), u"Question 2"_s);

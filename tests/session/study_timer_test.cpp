@@ -12,7 +12,7 @@ namespace {
 const QString kStoredTime = u"TTimer/2001 Examination - Part I"_s;
 
 class StudyTimerTest : public ProgramTest {
- protected:
+protected:
   StudyTimerTest() {
     SetOption(u"TimerStatus"_s, u"1"_s);
     bank.AddQuestions(u"01Part1"_s, 1, 3, TestBank::SubjectName(5));

@@ -13,7 +13,7 @@ constexpr std::int16_t kRight = 0;
 constexpr std::int16_t kWrong = 1;
 
 class SubjectStudyTest : public ProgramTest {
- protected:
+protected:
   SubjectStudyTest() {
     Choose(u"Method"_s, u"1"_s);
     Choose(u"Subject"_s, subject);

@@ -9,10 +9,12 @@ using namespace Qt::StringLiterals;
 namespace tessaly::test {
 namespace {
 
-QString Blanks(int count) { return QString(count, u' '); }
+QString Blanks(int count) {
+  return QString(count, u' ');
+}
 
 class StatisticsReportTest : public ProgramTest {
- protected:
+protected:
   StatisticsReport Build() {
     program.Prepare();
     return BuildStatisticsReport(State(), program.Bank());
@@ -26,8 +28,8 @@ TEST_F(StatisticsReportTest, ASectionRowStandsRightAligned) {
 }
 
 TEST_F(StatisticsReportTest, ASubjectRowStandsLeftAligned) {
-  EXPECT_EQ(SubjectRow(u"Alimony"_s, 5, 4), u"Alimony"_s + Blanks(60) + u"5"_s + Blanks(8) +
-                                                u"4"_s + Blanks(11) + u"80%"_s);
+  EXPECT_EQ(SubjectRow(u"Alimony"_s, 5, 4),
+            u"Alimony"_s + Blanks(60) + u"5"_s + Blanks(8) + u"4"_s + Blanks(11) + u"80%"_s);
   EXPECT_EQ(SubjectRow(u"Alimony"_s, 0, 4), std::nullopt);
 }
 
@@ -45,8 +47,7 @@ TEST_F(StatisticsReportTest, WithoutAnswersItHoldsHeadingsZerosAndBlanks) {
                        u"Exam               Number   Number      Possible    Actual     Score"_s,
                        u"Year   Section     Asked    Correct      Score      Score    Percentage"_s,
                        u""_s};
-  for (const QString& year :
-       {u"2001"_s, u"2000"_s, u"1999"_s, u"1998"_s, u"1997"_s, u"1996"_s}) {
+  for (const QString& year : {u"2001"_s, u"2000"_s, u"1999"_s, u"1998"_s, u"1997"_s, u"1996"_s}) {
     for (const QString& part : {u"Part I  "_s, u"Part II "_s, u"Part III"_s, u"Part IV "_s}) {
       expected.append(year + Blanks(4) + part + Blanks(6) + u"0"_s + Blanks(9) + u"0"_s +
                       Blanks(10) + u"0"_s + Blanks(10) + u"0"_s + Blanks(10) + u"0%"_s);
@@ -61,8 +62,9 @@ TEST_F(StatisticsReportTest, WithoutAnswersItHoldsHeadingsZerosAndBlanks) {
 
 TEST_F(StatisticsReportTest, EachModeReportsItsOwnFields) {
   bank.AddQuestions(u"00Part2"_s, 46, 46, TestBank::SubjectName(3), {u"C"_s, u"I"_s, u"P"_s, 1, 1});
-  bank.RunOnAnswers(u"UPDATE SubjectStats SET TMAsked = 2, TMCorrect = 1, EMAsked = 3 WHERE "
-                    u"Subject = 'Subject 03'"_s);
+  bank.RunOnAnswers(
+      u"UPDATE SubjectStats SET TMAsked = 2, TMCorrect = 1, EMAsked = 3 WHERE "
+      u"Subject = 'Subject 03'"_s);
   StatisticsReport report = Build();
   EXPECT_EQ(report.Caption, u"Tutorial Mode Statistics"_s);
   EXPECT_TRUE(report.Lines.contains(SectionRow(u"2000"_s, u"Part II "_s, {1, 1, 3, 3})));

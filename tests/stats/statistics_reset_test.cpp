@@ -11,7 +11,7 @@ namespace tessaly::test {
 namespace {
 
 class RecordingView : public ResetView {
- public:
+public:
   void SetBusyPointer(bool busy) override { busyPointer = busy; }
   void ShowProgress() override { progressShown = true; }
   void ShowStatistics() override { statisticsShown = true; }
@@ -24,14 +24,15 @@ class RecordingView : public ResetView {
 };
 
 class StatisticsResetTest : public ProgramTest {
- protected:
+protected:
   StatisticsResetTest() {
     for (const QString& table : {u"01Part1"_s, u"01Part2"_s, u"00Part1"_s, u"96Part4"_s}) {
       bank.AddQuestions(table, 1, 2, TestBank::SubjectName(1), answered);
       bank.AddQuestions(table, 3, 3, TestBank::SubjectName(2), answered);
     }
-    bank.RunOnAnswers(u"UPDATE SubjectStats SET TMAsked = 4, TMCorrect = 3, EMAsked = 2, "
-                      u"EMCorrect = 1"_s);
+    bank.RunOnAnswers(
+        u"UPDATE SubjectStats SET TMAsked = 4, TMCorrect = 3, EMAsked = 2, "
+        u"EMCorrect = 1"_s);
     for (const QString& section : {u"TTimer/"_s, u"ETimer/"_s}) {
       for (int year = 1996; year <= 2001; ++year) {
         for (int part = 0; part < 4; ++part) {
@@ -46,9 +47,7 @@ class StatisticsResetTest : public ProgramTest {
     StatisticsReset reset(State(), settings, program.Bank(), boxes, resetView);
     reset.Run(choices);
   }
-  [[nodiscard]] QString Row(const QString& table, int no = 1) {
-    return bank.StatusRow(table, no);
-  }
+  [[nodiscard]] QString Row(const QString& table, int no = 1) { return bank.StatusRow(table, no); }
   [[nodiscard]] int TimersLeft(const QString& section) const {
     int left = 0;
     for (auto it = settings.values.begin(); it != settings.values.end(); ++it) {
@@ -56,7 +55,9 @@ class StatisticsResetTest : public ProgramTest {
     }
     return left;
   }
-  [[nodiscard]] static QString Titled(const QString& text) { return u"Tessaly Statistics|"_s + text; }
+  [[nodiscard]] static QString Titled(const QString& text) {
+    return u"Tessaly Statistics|"_s + text;
+  }
 
   const TestStatus answered{u"C"_s, u"I"_s, u"F"_s, 2, 1};
   RecordingView resetView;
@@ -111,7 +112,8 @@ TEST_F(StatisticsResetTest, ASectionResetNamesTheYearBeforeAndDeletesItsTimer) {
       boxes.shown,
       (QStringList{
           Titled(u"Reset 2000 Tutorial Mode timer and statistics for the current section?"_s),
-          Titled(u"All Tutorial Mode statistics for Part 2 of the 2000 exam have been deleted"_s)}));
+          Titled(
+              u"All Tutorial Mode statistics for Part 2 of the 2000 exam have been deleted"_s)}));
   EXPECT_EQ(Row(u"01Part2"_s), u"U I F 2 1"_s);
   EXPECT_EQ(Row(u"01Part1"_s), u"C I F 2 1"_s);
   EXPECT_FALSE(settings.values.contains(u"TTimer/2000 Examination - Part II"_s));
@@ -163,10 +165,10 @@ TEST_F(StatisticsResetTest, AllExamsClearTheModesTimersAndSubjects) {
 
 TEST_F(StatisticsResetTest, MissedQuestionsClearPassFailOnly) {
   Run({.AllDifficult = true});
-  EXPECT_EQ(boxes.shown,
-            (QStringList{
-                Titled(u"Reset statistics for ALL QUESTIONS PREVIOUSLY MISSED?"_s),
-                Titled(u"Statistics for all questions previously missed have been deleted"_s)}));
+  EXPECT_EQ(
+      boxes.shown,
+      (QStringList{Titled(u"Reset statistics for ALL QUESTIONS PREVIOUSLY MISSED?"_s),
+                   Titled(u"Statistics for all questions previously missed have been deleted"_s)}));
   EXPECT_EQ(Row(u"00Part1"_s), u"C I U 2 1"_s);
 }
 

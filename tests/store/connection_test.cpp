@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace tessaly::test {
 namespace {
 
-constexpr int kPageBytes = 1024;
+constexpr qsizetype kPageBytes = 1024;
 
 QByteArray Noise(qsizetype bytes) {
   QRandomGenerator random(20020101);

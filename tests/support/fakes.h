@@ -20,7 +20,7 @@ namespace tessaly::test {
 
 // Settings in memory that remember the order in which they were written, as "Section/Key=value".
 class FakeSettings : public SettingsStore {
- public:
+public:
   QString Read(const QString& section, const QString& key, const QString& fallback) const override {
     return values.value(section + u'/' + key, fallback);
   }
@@ -39,7 +39,7 @@ class FakeSettings : public SettingsStore {
 
 // A clock that stands still until it is moved; sleeping moves it.
 class FakeClock : public Clock {
- public:
+public:
   QDateTime Now() const override { return now; }
   void Sleep(int milliseconds) override { now = now.addMSecs(milliseconds); }
 
@@ -48,7 +48,7 @@ class FakeClock : public Clock {
 
 // Drives that come and go as a test says.
 class FakeDrives : public Drives {
- public:
+public:
   QList<Drive> Removable() const override { return removable; }
 
   QList<Drive> removable;
@@ -56,7 +56,7 @@ class FakeDrives : public Drives {
 
 // Answers every box at once and remembers it as "title|text".
 class FakeBoxes : public MessageBoxes {
- public:
+public:
   BoxAnswer Show(const QString& text, const QString& title, BoxIcon icon,
                  BoxButtons buttons) override {
     shown.append(title + u'|' + text);
@@ -78,7 +78,7 @@ class FakeBoxes : public MessageBoxes {
 
 // What the main window would show.
 class FakeView : public MainWindowView {
- public:
+public:
   void SetBoxText(Box box, const QString& text) override { boxes[box] = text; }
   QString BoxText(Box box) const override {
     const auto found = boxes.find(box);

@@ -16,7 +16,7 @@ namespace tessaly::test {
 // The whole program without windows, on real database files, with fakes for the rest of the
 // machine. The working directory is a temporary one while a test runs.
 class ProgramTest : public ::testing::Test {
- protected:
+protected:
   ProgramTest() { QDir::setCurrent(bank.WorkingFolder()); }
   ~ProgramTest() override { QDir::setCurrent(QDir::rootPath()); }
 

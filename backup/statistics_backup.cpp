@@ -58,6 +58,7 @@ void StatisticsBackup::CopyToDrive() {
   RequireDisk();
   // A change that was cut off is undone when the file is opened. It must be closed again: reading
   // it would take away the locks of an open one.
+  static_cast<void>(program_.Bank().OpenDatabase(paths.AnswersDbPath, paths.DbConnect));
   PutCopy(paths.AnswersDbPath, FileOnDrive(), [] {});
 }
 
@@ -79,6 +80,7 @@ void StatisticsBackup::PutCopy(const QString& source, const QString& target,
     beforeReplacing();
     files.Move(beside, target);
   } catch (const RuntimeError&) {
+    files.Remove(beside);
     throw;
   }
 }
@@ -89,6 +91,7 @@ void StatisticsBackup::TakeUpRestored() {
   StudySelector& selector = program_.Selector();
   selector.ShowModeCaption();
   selector.RefreshStatus();
+  selector.LoadSubjectTotals();
 }
 
 bool StatisticsBackup::Carry(const std::function<void()>& step) {

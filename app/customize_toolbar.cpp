@@ -77,6 +77,9 @@ frmCustomize::frmCustomize(QToolBar& toolbar, const ToolbarArrangement& defaults
 void frmCustomize::BuildLists() {
   available_->setObjectName(u"lstAvailable"_s);
   current_->setObjectName(u"lstCurrent"_s);
+  // Room for every button, as the dialog is opened.
+  const int rowHeight = toolbar_.iconSize().height() + 4;
+  current_->setMinimumHeight(rowHeight * static_cast<int>(defaults_.size() + 1));
   auto* availableLabel = new QLabel(u"A&vailable toolbar buttons:"_s);
   availableLabel->setBuddy(available_);
   auto* currentLabel = new QLabel(u"C&urrent toolbar buttons:"_s);

@@ -20,8 +20,8 @@ enum class ResetScope { CurrentSection, CurrentExam, AllExams, CurrentSubject, A
 struct ResetChoices {
   bool ResetAll = false;
   bool AllDifficult = false;  // the record of previously missed questions
-  std::optional<ResetScope> Tutorial;
-  std::optional<ResetScope> Evaluation;
+  std::optional<ResetScope> Tutorial{};
+  std::optional<ResetScope> Evaluation{};
 };
 
 // The windows as the reset sees them.

@@ -110,6 +110,7 @@ TEST_F(BackupFormTest, WithoutADriveItSaysSoAndOkChangesNothing) {
   EXPECT_TRUE(IsShown(u"lblNoDrive"_s));
   EXPECT_EQ(TextOf(u"lblNoDrive"_s), u"No removable drive is connected."_s);
   EXPECT_EQ(Selected(), QString());
+  boxes.answers = {BoxAnswer::Ok};
   Click(u"OKButton"_s);
   EXPECT_EQ(boxes.shown, QStringList{kBackupRequest});
   EXPECT_TRUE(form->isVisible());
@@ -130,6 +131,7 @@ TEST_F(BackupFormTest, ADriveThatIsTakenOutStaysInTheListAndAsksForItsDisk) {
   drives.removable.clear();
   QTest::qWait(1200);
   EXPECT_EQ(List()->count(), 1);
+  boxes.answers = {BoxAnswer::Ok};
   boxes.whenShown = [this] { Insert(u"Stick"_s, stick.path()); };
   Click(u"OKButton"_s);
   EXPECT_EQ(boxes.shown, QStringList{kBackupRequest});

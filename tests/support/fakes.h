@@ -67,7 +67,10 @@ public:
     if (!answers.isEmpty()) {
       return answers.takeFirst();
     }
-    return buttons == BoxButtons::YesNo ? BoxAnswer::Yes : BoxAnswer::Ok;
+    // Where OK tries again, an answer that nobody gave must not try for ever.
+    return buttons == BoxButtons::YesNo      ? BoxAnswer::Yes
+           : buttons == BoxButtons::OkCancel ? BoxAnswer::Cancel
+                                             : BoxAnswer::Ok;
   }
 
   QStringList shown;

@@ -6,10 +6,12 @@
 #include "app/program.h"
 #include "app/start_up.h"
 #include "platform/clock.h"
+#include "platform/cups_printer.h"
 #include "platform/drives.h"
 #include "platform/file_operations.h"
 #include "platform/instance_lock.h"
 #include "platform/qt_message_boxes.h"
+#include "reference/browser_process.h"
 #include "store/settings_store.h"
 
 using namespace Qt::StringLiterals;
@@ -25,8 +27,11 @@ int RunProgram(tessaly::MessageBoxes& boxes, tessaly::ErrorBoundary& errors) {
     tessaly::SystemClock clock;
     tessaly::DiskFileOperations files;
     tessaly::SystemDrives drives;
+    tessaly::CupsPrinter printer(QApplication::applicationDirPath());
+    tessaly::BrowserProcess browserWindow(
+        QApplication::applicationDirPath() + u'/' + tessaly::kBrowserProgramName, errors);
     tessaly::frmMain mainWindow(boxes);
-    tessaly::Program program({settings, clock, boxes, files, drives},
+    tessaly::Program program({settings, clock, boxes, files, drives, printer, browserWindow},
                              QApplication::applicationDirPath(), mainWindow);
     mainWindow.Attach(program);
     if (tessaly::StartUp(program, mainWindow, clock, errors)) {

@@ -385,6 +385,9 @@ void frmMain::closeEvent(QCloseEvent* event) {
   }
   event->accept();
   UnloadAllForms();
+  // Not left to the last window: a form that comes and goes meanwhile keeps the program from
+  // noticing that it was the last.
+  QCoreApplication::exit();
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {

@@ -2,6 +2,7 @@
 #define TESSALY_APP_MAIN_WINDOW_H_
 
 #include <QMainWindow>
+#include <QPointer>
 #include <array>
 #include <map>
 #include <span>
@@ -10,6 +11,7 @@
 #include "app/main_window_commands.h"
 #include "app/main_window_view.h"
 #include "app/placed_window.h"
+#include "app/printing_form.h"
 #include "app/program_settings.h"
 
 class QLabel;
@@ -24,6 +26,7 @@ namespace tessaly {
 class Program;
 class StudyTextBox;
 class WelcomePane;
+class frmHint;
 
 // The program's main window: navigation bar, question and explanation panes, answer buttons,
 // status bar and menus. It shows what the study logic tells it and hands every command on; which
@@ -84,6 +87,8 @@ private:
   void mnuFileBegin_Click();
   void mnuFileNext_Click();
   void mnuFileClose_Click();
+  void mnuFilePrint_Click();
+  void mnuFileResearch_Click();
   void mnuFileExit_Click();
   void mnuViewExamChoices_Click();
   void mnuViewOptions_Click();
@@ -94,6 +99,10 @@ private:
   void mnuFileImport_Click();
   void mnuViewStats_Click();
   void mnuStatsReset_Click();
+  void mnuHelpPubs_Click();
+  void mnuHelpKovrins_Click();
+  void mnuHelpGlossary_Click();
+  void mnu23_Click();
   void mnuHelpAbout_Click();
   void cmdSkip_Click();
   void tmrTestTimer_Timer();
@@ -125,6 +134,8 @@ private:
   QStatusBar* statusBar_ = nullptr;
   std::array<QLabel*, 3> panels_{};
   QTimer* testTimer_ = nullptr;
+  PrintingForm printing_;
+  QPointer<frmHint> hint_;  // while it is open
 };
 
 // Closes every window of the program, in the order in which the platform lists them.

@@ -10,7 +10,10 @@
 #include "app/program.h"
 #include "backup/backup_form.h"
 #include "catalogue/study_mode_wizard.h"
+#include "reference/hint_form.h"
+#include "reference/research_hint.h"
 #include "reference/tip_form.h"
+#include "session/question_printing.h"
 #include "stats/reset_form.h"
 #include "stats/statistics_form.h"
 
@@ -24,6 +27,9 @@ const std::span<const frmMain::CommandHandler> frmMain::kHandlers = [] {
       CommandHandler{"mnuFileNext"_L1, "going on to the next question",
                      &frmMain::mnuFileNext_Click},
       CommandHandler{"mnuFileClose"_L1, "ending the study session", &frmMain::mnuFileClose_Click},
+      CommandHandler{"mnuFilePrint"_L1, "printing the question", &frmMain::mnuFilePrint_Click},
+      CommandHandler{"mnuFileResearch"_L1, "opening the research hint",
+                     &frmMain::mnuFileResearch_Click},
       CommandHandler{"mnuFileExit"_L1, "leaving the program", &frmMain::mnuFileExit_Click},
       CommandHandler{"mnuViewExamChoices"_L1, "opening the Study Mode wizard",
                      &frmMain::mnuViewExamChoices_Click},
@@ -40,6 +46,12 @@ const std::span<const frmMain::CommandHandler> frmMain::kHandlers = [] {
       CommandHandler{"mnuFileImport"_L1, "restoring the statistics", &frmMain::mnuFileImport_Click},
       CommandHandler{"mnuViewStats"_L1, "reading the statistics", &frmMain::mnuViewStats_Click},
       CommandHandler{"mnuStatsReset"_L1, "reading the statistics", &frmMain::mnuStatsReset_Click},
+      CommandHandler{"mnuHelpPubs"_L1, "opening the IRS references", &frmMain::mnuHelpPubs_Click},
+      CommandHandler{"mnuHelpKovrins"_L1, "opening the Kovrins pages",
+                     &frmMain::mnuHelpKovrins_Click},
+      CommandHandler{"mnuHelpGlossary"_L1, "opening the definitions",
+                     &frmMain::mnuHelpGlossary_Click},
+      CommandHandler{"mnu23"_L1, "opening the practice application", &frmMain::mnu23_Click},
       CommandHandler{"mnuHelpAbout"_L1, "reading the release of the question data",
                      &frmMain::mnuHelpAbout_Click},
   };
@@ -61,6 +73,25 @@ void frmMain::mnuFileNext_Click() {
 
 void frmMain::mnuFileClose_Click() {
   program_->Session().EndSession();
+}
+
+void frmMain::mnuFilePrint_Click() {
+  const PrintedQuestion question = QuestionOnScreen(program_->State(), *this);
+  const Platform& machine = program_->Machine();
+  printing_.Print(PrintingText(question), *this,
+                  [&] { PrintQuestion(question, machine.printer, machine.clock); });
+}
+
+// One dialog at a time: where a question was answered or skipped meanwhile, it shows the new hint.
+void frmMain::mnuFileResearch_Click() {
+  const QString hint = BeginResearch(*this);
+  if (hint_.isNull()) {
+    hint_ = new frmHint(*program_, *this, errors_, this);
+  }
+  hint_->SetHint(hint);
+  hint_->show();
+  hint_->raise();
+  hint_->activateWindow();
 }
 
 void frmMain::mnuFileExit_Click() {
@@ -122,6 +153,22 @@ void frmMain::mnuStatsReset_Click() {
   if (statistics.isVisible()) {
     statistics.exec();
   }
+}
+
+void frmMain::mnuHelpPubs_Click() {
+  program_->Browser().OpenReferences();
+}
+
+void frmMain::mnuHelpKovrins_Click() {
+  program_->Browser().OpenKovrins();
+}
+
+void frmMain::mnuHelpGlossary_Click() {
+  program_->Browser().OpenDefinitions();
+}
+
+void frmMain::mnu23_Click() {
+  program_->Browser().OpenForm(kForm23);
 }
 
 void frmMain::mnuHelpAbout_Click() {

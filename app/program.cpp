@@ -17,6 +17,7 @@ Program::Program(const Platform& platform, const QString& programFolder, MainWin
                {workspace_, platform.settings, platform.clock, platform.boxes, compaction_,
                 settings_, selector_},
                view),
+      browser_(state_, platform.browserWindow),
       view_(view) {
   state_.Paths.ProgramFolder = programFolder;
 }

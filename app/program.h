@@ -6,6 +6,7 @@
 #include "app/program_settings.h"
 #include "app/program_state.h"
 #include "catalogue/study_selector.h"
+#include "reference/reference_browser.h"
 #include "session/study_session.h"
 #include "store/compaction.h"
 #include "store/database.h"
@@ -14,6 +15,7 @@ namespace tessaly {
 
 class Drives;
 class FileOperations;
+class Printer;
 
 // What the program asks of the machine.
 struct Platform {
@@ -22,6 +24,8 @@ struct Platform {
   MessageBoxes& boxes;
   FileOperations& files;
   Drives& drives;
+  Printer& printer;
+  BrowserWindow& browserWindow;
 };
 
 // The program without its windows: the shared state and everything that works on it.
@@ -42,6 +46,7 @@ public:
   [[nodiscard]] ProgramSettings& Settings() { return settings_; }
   [[nodiscard]] StudySelector& Selector() { return selector_; }
   [[nodiscard]] StudySession& Session() { return session_; }
+  [[nodiscard]] ReferenceBrowser& Browser() { return browser_; }
 
 private:
   Platform platform_;
@@ -51,6 +56,7 @@ private:
   ProgramSettings settings_;
   Compaction compaction_;
   StudySession session_;
+  ReferenceBrowser browser_;
   MainWindowView& view_;
 };
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "catalogue/study_selection.h"
+#include "reference/browser_state.h"
 #include "stats/subject_statistics.h"
 #include "store/options.h"
 #include "store/question_bank.h"
@@ -48,6 +49,7 @@ struct ProgramState {
   SectionTime Time;
   BankPaths Paths;
   BackupState Backup;
+  BrowserState Browser;
   QString ResearchLink;    // page of the last question that had one
   bool Answered = false;   // the question on screen has been graded
   bool TrueFalse = false;  // the question on screen is a True/False question

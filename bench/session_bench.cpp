@@ -14,6 +14,8 @@
 #include "bench/bench_bank.h"
 #include "platform/file_operations.h"
 #include "store/connection.h"
+#include "tests/support/fake_browser_window.h"
+#include "tests/support/fake_printer.h"
 #include "tests/support/fakes.h"
 
 using namespace Qt::StringLiterals;
@@ -38,7 +40,10 @@ struct BenchProgram {
   test::FakeView view;
   DiskFileOperations files;
   test::FakeDrives drives;
-  Program program{{settings, clock, boxes, files, drives}, bank.Folder(), view};
+  test::FakePrinter printer;
+  test::FakeBrowserWindow browserWindow;
+  Program program{
+      {settings, clock, boxes, files, drives, printer, browserWindow}, bank.Folder(), view};
 };
 
 // A bank of 768,000 rows takes its time to make, so each size is made once.

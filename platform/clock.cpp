@@ -1,6 +1,8 @@
 #include "platform/clock.h"
 
+#include <QEventLoop>
 #include <QThread>
+#include <QTimer>
 
 namespace tessaly {
 
@@ -10,6 +12,12 @@ QDateTime SystemClock::Now() const {
 
 void SystemClock::Sleep(int milliseconds) {
   QThread::msleep(static_cast<unsigned long>(milliseconds));
+}
+
+void SystemClock::Wait(int milliseconds) {
+  QEventLoop events;
+  QTimer::singleShot(milliseconds, &events, &QEventLoop::quit);
+  events.exec();
 }
 
 }  // namespace tessaly

@@ -17,12 +17,15 @@ public:
   [[nodiscard]] virtual QDateTime Now() const = 0;
   // Lets time pass without handling events.
   virtual void Sleep(int milliseconds) = 0;
+  // Lets time pass while events are handled; less of it when the program is to end.
+  virtual void Wait(int milliseconds) = 0;
 };
 
 class SystemClock : public Clock {
 public:
   [[nodiscard]] QDateTime Now() const override;
   void Sleep(int milliseconds) override;
+  void Wait(int milliseconds) override;
 };
 
 }  // namespace tessaly

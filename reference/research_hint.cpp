@@ -18,4 +18,20 @@ void LoadResearchHint(const ResearchReference& reference, ProgramState& state,
   }
 }
 
+QString BeginResearch(MainWindowView& view) {
+  view.EnableToolButton(ToolButton::Hint, false);
+  view.EnableCommand(Command::mnuFileResearch, false);
+  const QString hint = view.BoxText(Box::txtHintLink);
+  // Worded differently from the text for a question without a hint.
+  return hint.isEmpty() ? u"The research link for this question is not available in this database "
+                          u"release"_s
+                        : hint;
+}
+
+void EndResearch(MainWindowView& view, bool sessionRuns) {
+  if (sessionRuns) {
+    view.EnableToolButton(ToolButton::Hint, true);
+  }
+}
+
 }  // namespace tessaly

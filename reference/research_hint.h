@@ -19,6 +19,13 @@ struct ResearchReference {
 void LoadResearchHint(const ResearchReference& reference, ProgramState& state,
                       MainWindowView& view);
 
+// The Research command: takes itself out of menu and toolbar and returns what the dialog is to
+// show.
+[[nodiscard]] QString BeginResearch(MainWindowView& view);
+// The dialog has been closed: the toolbar's command can be used again while a session runs. The
+// menu item comes back with the next question.
+void EndResearch(MainWindowView& view, bool sessionRuns);
+
 }  // namespace tessaly
 
 #endif  // TESSALY_REFERENCE_RESEARCH_HINT_H_

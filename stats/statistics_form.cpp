@@ -12,6 +12,7 @@
 #include "app/program.h"
 #include "stats/reset_form.h"
 #include "stats/score_chart.h"
+#include "stats/statistics_printing.h"
 
 using namespace Qt::StringLiterals;
 
@@ -83,11 +84,19 @@ void frmStats::BuildButtons(QVBoxLayout* column) {
     row->addWidget(button);
     return button;
   };
+  add(u"cmdPrintStats"_s, u"Print"_s, [this] { cmdPrintStats_Click(); });
   add(u"cmdResetStats"_s, u"Reset"_s, [this] { cmdResetStats_Click(); });
   QPushButton* close = add(u"cmdCloseStats"_s, u"Close"_s, [this] { accept(); });
   close->setDefault(true);
   close->setFocus();
   column->addLayout(row);
+}
+
+void frmStats::cmdPrintStats_Click() {
+  errors_.Run(u"printing the statistics"_s, [this] {
+    printing_.Print(kPrintingStatistics, *this,
+                    [this] { PrintStatistics(report_.Blocks, program_.Machine().printer); });
+  });
 }
 
 void frmStats::cmdResetStats_Click() {

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 
+#include "app/printing_form.h"
 #include "stats/statistics_report.h"
 
 class QListWidget;
@@ -28,12 +29,14 @@ private:
   void BuildReport();
   void BuildCharts(QLayout* beside);
   void BuildButtons(QVBoxLayout* column);
+  void cmdPrintStats_Click();
   void cmdResetStats_Click();
 
   Program& program_;
   ErrorBoundary& errors_;
   StatisticsReport report_;
   QListWidget* list_;
+  PrintingForm printing_;
 };
 
 }  // namespace tessaly

@@ -16,7 +16,6 @@ namespace {
 
 constexpr QLatin1StringView kLineEnd{"\r\n"};
 constexpr int kPrintIndent = 8;
-constexpr int kHeadingIndent = 12;
 
 QString Spaces(qsizetype count) {
   if (count < 0) {
@@ -88,7 +87,7 @@ private:
 void AddSections(StatisticsReport& report, ReportWriter& writer, const Database& answers,
                  std::uint8_t mode) {
   writer.AddBlank();
-  writer.AddHeading(u"Statistics by Exam Section"_s);
+  writer.AddHeading(kSectionHeading);
   writer.AddHeader(SectionHeader(), report.Blocks.PrintSectionHeader);
   for (int exam = 0; exam < kExamCount; ++exam) {
     for (int section = 0; section < kPartCount; ++section) {
@@ -107,7 +106,7 @@ void AddSections(StatisticsReport& report, ReportWriter& writer, const Database&
 
 void AddSubjects(StatisticsReport& report, ReportWriter& writer,
                  const SubjectStatistics& subjects) {
-  writer.AddHeading(u"Statistics by Subject"_s);
+  writer.AddHeading(kSubjectHeading);
   writer.AddHeader(SubjectHeader(), report.Blocks.PrintSubjectHeader);
   for (std::size_t i = 0; i < kSubjectCount; ++i) {
     const std::int16_t asked = subjects.SubjectAsked[i];

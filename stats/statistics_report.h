@@ -40,6 +40,9 @@ struct StatisticsReport {
 };
 
 inline constexpr int kSubjectNameColumns = 67;
+inline constexpr int kHeadingIndent = 12;  // blanks before a heading
+inline constexpr QLatin1StringView kSectionHeading{"Statistics by Exam Section"};
+inline constexpr QLatin1StringView kSubjectHeading{"Statistics by Subject"};
 
 // The row of an exam part; `year` has four digits, `part` eight characters. Numbers stand
 // right-aligned.

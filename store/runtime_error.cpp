@@ -25,6 +25,7 @@ constexpr std::array kErrors{
     ErrorEntry{ErrorNumber::PermissionDenied, "Permission denied"_L1},
     ErrorEntry{ErrorNumber::DiskNotReady, "Disk not ready"_L1},
     ErrorEntry{ErrorNumber::InvalidFileFormat, "Invalid file format"_L1},
+    ErrorEntry{ErrorNumber::CannotCreateObject, "Component can't create object"_L1},
     ErrorEntry{ErrorNumber::InvalidPicture, "Invalid picture"_L1},
     ErrorEntry{ErrorNumber::Printer, "Printer error"_L1},
     ErrorEntry{ErrorNumber::UpdateWithoutEdit, "Update without AddNew or Edit"_L1},

@@ -19,6 +19,7 @@ enum class ErrorNumber : int {
   PermissionDenied = 70,
   DiskNotReady = 71,
   InvalidFileFormat = 321,
+  CannotCreateObject = 429,
   InvalidPicture = 481,
   Printer = 482,
   UpdateWithoutEdit = 3020,

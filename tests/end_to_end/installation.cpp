@@ -1,10 +1,12 @@
 #include "tests/end_to_end/installation.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <stdexcept>
 
 #include "store/settings_store.h"
+#include "tests/support/file_contents.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +26,21 @@ Installation::Installation(const QString& parentFolder)
     : bank(parentFolder), workingFolder_(bank.WorkingFolder()) {
   const QString built = QString::fromUtf8(TESSALY_PROGRAM_DIR);
   Copy(built + u"/tessaly"_s, ProgramPath());
+  Copy(built + u"/tessaly-print"_s, Folder() + u"/tessaly-print"_s);
   Copy(built + u"/splash01.bmp"_s, Folder() + u"/splash01.bmp"_s);
   UseConfigFolder(home_.path());
+}
+
+void Installation::AddReferenceBrowser() const {
+  Copy(QString::fromUtf8(TESSALY_PROGRAM_DIR) + u"/tessaly-browser"_s,
+       Folder() + u"/tessaly-browser"_s);
+  for (const QString& page :
+       {u"pubmenu.html"_s, u"ipubmenu.html"_s, u"notfound.html"_s, u"pubs/p501.html"_s,
+        u"kovrins/kovrin.html"_s, u"glossary/glossary.html"_s}) {
+    QDir(Folder()).mkpath(QFileInfo(page).path());
+    WriteBytes(Folder() + u'/' + page,
+               "<!DOCTYPE html><title>Page " + page.toUtf8() + "</title><p>A page.</p>");
+  }
 }
 
 void Installation::UseConfigFolder(const QString& folder) {
@@ -47,6 +62,9 @@ QProcessEnvironment Installation::Environment() const {
   environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
   environment.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"tessaly_agent"_s);
   environment.insert(u"QT_PLUGIN_PATH"_s, QString::fromUtf8(TESSALY_AGENT_PLUGINS));
+  for (auto variable = variables_.begin(); variable != variables_.end(); ++variable) {
+    environment.insert(variable.key(), variable.value());
+  }
   return environment;
 }
 

@@ -2,6 +2,7 @@
 #define TESSALY_TESTS_END_TO_END_INSTALLATION_H_
 
 #include <QDir>
+#include <QMap>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QTemporaryDir>
@@ -20,9 +21,16 @@ public:
   Installation(const Installation&) = delete;
   Installation& operator=(const Installation&) = delete;
 
+  // Puts the reference browser into the program folder, and pages of few words: the menus, the
+  // Kovrins start page, the glossary and Publication 501, each titled "Page" and its path.
+  void AddReferenceBrowser() const;
+
   // Other places for the settings and for temporary files; both folders exist.
   void UseConfigFolder(const QString& folder);
   void UseWorkingFolder(const QString& folder) { workingFolder_ = folder; }
+
+  // An environment variable of the program beside those that every test sets.
+  void SetVariable(const QString& name, const QString& value) { variables_.insert(name, value); }
 
   [[nodiscard]] QString Folder() const { return bank.Folder(); }
   [[nodiscard]] QString ProgramPath() const { return Folder() + QStringLiteral("/tessaly"); }
@@ -40,6 +48,7 @@ private:
   QTemporaryDir home_;
   QString configFolder_;
   QString workingFolder_;
+  QMap<QString, QString> variables_;
 };
 
 }  // namespace tessaly::test

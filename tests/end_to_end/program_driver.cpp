@@ -6,26 +6,14 @@
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QThread>
-#include <stdexcept>
-
-#include "tests/end_to_end/line_protocol.h"
 
 using namespace Qt::StringLiterals;
 
 namespace tessaly::test {
 
-namespace {
-
-constexpr int kPatienceMilliseconds = 30'000;
-constexpr unsigned long kPollMilliseconds = 5;
-
-[[noreturn]] void Fail(const QString& message) {
-  throw std::runtime_error(message.toStdString());
-}
-
-}  // namespace
-
-ProgramDriver::ProgramDriver(const Installation& installation) : installation_(installation) {
+ProgramDriver::ProgramDriver(const Installation& installation)
+    : installation_(installation),
+      agent_([this] { return IsRunning(); }, [this] { return Errors(); }) {
   process_.setStandardOutputFile(folder_.filePath(u"output"_s));
   process_.setStandardErrorFile(folder_.filePath(u"errors"_s));
   // A test that is cut off leaves no program behind.
@@ -39,7 +27,7 @@ ProgramDriver::~ProgramDriver() {
 }
 
 void ProgramDriver::Start() {
-  socket_.abort();
+  agent_.Disconnect();
   QFile::remove(SocketPath());
   QProcessEnvironment environment = installation_.Environment();
   environment.insert(u"TESSALY_AGENT_SOCKET"_s, SocketPath());
@@ -50,7 +38,7 @@ void ProgramDriver::Start() {
   if (!process_.waitForStarted(kPatienceMilliseconds)) {
     Fail(u"cannot start "_s + process_.program());
   }
-  Connect();
+  agent_.Connect(SocketPath());
 }
 
 void ProgramDriver::StartToMainWindow() {
@@ -89,11 +77,6 @@ void ProgramDriver::Resize(int width, int height) {
 
 void ProgramDriver::Move(int left, int top) {
   Ask({u"move"_s, u"frmMain"_s, QString::number(left), QString::number(top)});
-}
-
-void ProgramDriver::Send(const QStringList& request) {
-  socket_.write(EncodeLine(request));
-  socket_.flush();
 }
 
 QString ProgramDriver::Get(const QString& name, const QString& property) {
@@ -175,37 +158,6 @@ void ProgramDriver::WaitUntil(const QString& what, const std::function<bool()>& 
     }
     QThread::msleep(kPollMilliseconds);
   }
-}
-
-QStringList ProgramDriver::Ask(const QStringList& request) {
-  Send(request);
-  const QDeadlineTimer deadline(kPatienceMilliseconds);
-  while (!socket_.canReadLine()) {
-    if (socket_.state() != QLocalSocket::ConnectedState && socket_.bytesAvailable() == 0) {
-      Fail(u"the program ended over \"%1\"; errors: %2"_s.arg(request.join(u' '), Errors()));
-    }
-    if (deadline.hasExpired()) {
-      Fail(u"no answer to \"%1\"; errors: %2"_s.arg(request.join(u' '), Errors()));
-    }
-    socket_.waitForReadyRead(static_cast<int>(kPollMilliseconds));
-  }
-  const QStringList answer = DecodeLine(socket_.readLine());
-  if (answer.first() != u"ok"_s) {
-    Fail(u"\"%1\": %2"_s.arg(request.join(u' '), answer.mid(1).join(u' ')));
-  }
-  return answer.mid(1);
-}
-
-void ProgramDriver::Connect() {
-  const QDeadlineTimer deadline(kPatienceMilliseconds);
-  do {
-    socket_.connectToServer(SocketPath());
-    if (socket_.waitForConnected(kPatienceMilliseconds)) {
-      return;
-    }
-    QThread::msleep(kPollMilliseconds);
-  } while (IsRunning() && !deadline.hasExpired());
-  Fail(u"the program does not answer; errors: "_s + Errors());
 }
 
 QString ProgramDriver::SocketPath() const {

@@ -1,13 +1,13 @@
 #ifndef TESSALY_TESTS_END_TO_END_PROGRAM_DRIVER_H_
 #define TESSALY_TESTS_END_TO_END_PROGRAM_DRIVER_H_
 
-#include <QLocalSocket>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
 
+#include "tests/end_to_end/agent_client.h"
 #include "tests/end_to_end/installation.h"
 
 namespace tessaly::test {
@@ -39,6 +39,9 @@ public:
   [[nodiscard]] bool IsRunning();
   // Waits for the end and returns the exit code, -1 where it was no orderly one.
   int WaitForExit();
+  [[nodiscard]] qint64 ProcessId() const { return process_.processId(); }
+  // Where the program's agent listens.
+  [[nodiscard]] QString SocketPath() const;
   // What the process has written to its standard error.
   [[nodiscard]] QString Errors() const;
 
@@ -52,7 +55,7 @@ public:
   void Minimize() { Ask({QStringLiteral("minimize"), QStringLiteral("frmMain")}); }
   void Maximize() { Ask({QStringLiteral("maximize"), QStringLiteral("frmMain")}); }
   // Sends an act and does not wait for anything.
-  void Send(const QStringList& request);
+  void Send(const QStringList& request) { agent_.Send(request); }
 
   [[nodiscard]] QString Get(const QString& name, const QString& property);
   [[nodiscard]] QString Text(const QString& name) { return Get(name, QStringLiteral("text")); }
@@ -82,14 +85,12 @@ public:
   void WaitUntil(const QString& what, const std::function<bool()>& holds);
 
 private:
-  QStringList Ask(const QStringList& request);
-  void Connect();
-  [[nodiscard]] QString SocketPath() const;
+  QStringList Ask(const QStringList& request) { return agent_.Ask(request); }
 
   const Installation& installation_;
   QTemporaryDir folder_;
   QProcess process_;
-  QLocalSocket socket_;
+  AgentClient agent_;
 };
 
 }  // namespace tessaly::test

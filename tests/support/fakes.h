@@ -42,6 +42,7 @@ class FakeClock : public Clock {
 public:
   QDateTime Now() const override { return now; }
   void Sleep(int milliseconds) override { now = now.addMSecs(milliseconds); }
+  void Wait(int milliseconds) override { Sleep(milliseconds); }
 
   QDateTime now{QDate(2001, 6, 15), QTime(10, 0)};
 };

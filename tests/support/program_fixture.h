@@ -7,6 +7,8 @@
 
 #include "app/program.h"
 #include "platform/file_operations.h"
+#include "tests/support/fake_browser_window.h"
+#include "tests/support/fake_printer.h"
 #include "tests/support/fakes.h"
 #include "tests/support/printers.h"
 #include "tests/support/test_bank.h"
@@ -44,7 +46,9 @@ protected:
   FakeView view;
   DiskFileOperations files;
   FakeDrives drives;
-  Program program{{settings, clock, boxes, files, drives}, bank.Folder(), view};
+  FakePrinter printer;
+  FakeBrowserWindow browserWindow;
+  Program program{{settings, clock, boxes, files, drives, printer, browserWindow}, bank.Folder(), view};
 };
 
 }  // namespace tessaly::test

@@ -120,7 +120,13 @@ void ClickItem(const QStringList& arguments) {
 void Press(const QStringList& arguments) {
   QWidget* window = QApplication::activeModalWidget();
   if (window == nullptr) {
-    window = &WindowNamed(u"frmMain"_s);
+    window = FindWidget(u"frmMain"_s);
+  }
+  if (window == nullptr) {
+    window = QApplication::activeWindow();
+  }
+  if (window == nullptr) {
+    Refuse(u"a window for the keys"_s, "is not there");
   }
   if (!window->isActiveWindow()) {
     window->activateWindow();

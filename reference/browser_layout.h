@@ -1,0 +1,24 @@
+#ifndef TESSALY_REFERENCE_BROWSER_LAYOUT_H_
+#define TESSALY_REFERENCE_BROWSER_LAYOUT_H_
+
+#include "app/pane_layout.h"
+
+namespace tessaly {
+
+// Where the reference browser's controls stand, in twips from the upper left corner of its window:
+// the page, and below it a bar that begins with the way back and ends with the two buttons.
+struct BrowserLayout {
+  TwipsRect page;
+  TwipsRect progress;  // along the page's lower edge
+  TwipsRect back;
+  TwipsRect forward;
+  TwipsRect location;
+  TwipsRect pubList;
+  TwipsRect close;
+};
+
+[[nodiscard]] BrowserLayout ArrangeBrowser(std::int32_t width, std::int32_t height);
+
+}  // namespace tessaly
+
+#endif  // TESSALY_REFERENCE_BROWSER_LAYOUT_H_

@@ -11,6 +11,7 @@
 #include "platform/file_operations.h"
 #include "platform/instance_lock.h"
 #include "platform/qt_message_boxes.h"
+#include "platform/system_desktop.h"
 #include "reference/browser_process.h"
 #include "store/settings_store.h"
 
@@ -27,12 +28,14 @@ int RunProgram(tessaly::MessageBoxes& boxes, tessaly::ErrorBoundary& errors) {
     tessaly::SystemClock clock;
     tessaly::DiskFileOperations files;
     tessaly::SystemDrives drives;
+    tessaly::SystemDesktop desktop(clock);
     tessaly::CupsPrinter printer(QApplication::applicationDirPath());
     tessaly::BrowserProcess browserWindow(
         QApplication::applicationDirPath() + u'/' + tessaly::kBrowserProgramName, errors);
     tessaly::frmMain mainWindow(boxes);
-    tessaly::Program program({settings, clock, boxes, files, drives, printer, browserWindow},
-                             QApplication::applicationDirPath(), mainWindow);
+    tessaly::Program program(
+        {settings, clock, boxes, files, drives, printer, desktop, browserWindow},
+        QApplication::applicationDirPath(), mainWindow);
     mainWindow.Attach(program);
     if (tessaly::StartUp(program, mainWindow, clock, errors)) {
       exitCode = QApplication::exec();

@@ -20,6 +20,7 @@
 #include "app/study_text_box.h"
 #include "app/twips.h"
 #include "app/welcome_pane.h"
+#include "reference/web_links.h"
 #include "store/settings_store.h"
 
 using namespace Qt::StringLiterals;
@@ -192,6 +193,11 @@ void frmMain::ConnectCommands() {
     QAction* action = ActionOf(entry.command);
     connect(action, &QAction::triggered, this, [this, &entry] { RunCommand(entry); });
     action->setEnabled(true);
+  }
+  for (const WebLink& link : kWebLinks) {
+    connect(ActionOf(link.command), &QAction::triggered, this, [this, &link] {
+      errors_.Run(u"opening a link"_s, [&] { OpenWebLink(link, program_->Machine()); });
+    });
   }
   for (const ToolButtonEntry& entry : kToolButtons) {
     EnableToolButton(entry.button, true);

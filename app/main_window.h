@@ -24,6 +24,7 @@ class QToolBar;
 namespace tessaly {
 
 class Program;
+class frmHelp;
 class StudyTextBox;
 class WelcomePane;
 class frmHint;
@@ -103,6 +104,9 @@ private:
   void mnuHelpKovrins_Click();
   void mnuHelpGlossary_Click();
   void mnu23_Click();
+  void mnuUpdates_Click();
+  void mnuHelpContents_Click();
+  void mnu2587_Click();
   void mnuHelpAbout_Click();
   void cmdSkip_Click();
   void tmrTestTimer_Timer();
@@ -135,6 +139,7 @@ private:
   std::array<QLabel*, 3> panels_{};
   QTimer* testTimer_ = nullptr;
   PrintingForm printing_;
+  QPointer<frmHelp> help_;
   QPointer<frmHint> hint_;  // while it is open
 };
 

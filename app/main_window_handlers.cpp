@@ -10,12 +10,19 @@
 #include "app/program.h"
 #include "backup/backup_form.h"
 #include "catalogue/study_mode_wizard.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/message_boxes.h"
+#include "reference/exam_application.h"
+#include "reference/help_form.h"
 #include "reference/hint_form.h"
 #include "reference/research_hint.h"
 #include "reference/tip_form.h"
+#include "reference/updater_form.h"
 #include "session/question_printing.h"
 #include "stats/reset_form.h"
 #include "stats/statistics_form.h"
+#include "store/settings_store.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +53,9 @@ const std::span<const frmMain::CommandHandler> frmMain::kHandlers = [] {
       CommandHandler{"mnuFileImport"_L1, "restoring the statistics", &frmMain::mnuFileImport_Click},
       CommandHandler{"mnuViewStats"_L1, "reading the statistics", &frmMain::mnuViewStats_Click},
       CommandHandler{"mnuStatsReset"_L1, "reading the statistics", &frmMain::mnuStatsReset_Click},
+      CommandHandler{"mnuUpdates"_L1, "starting the update", &frmMain::mnuUpdates_Click},
+      CommandHandler{"mnuHelpContents"_L1, "opening the help", &frmMain::mnuHelpContents_Click},
+      CommandHandler{"mnu2587"_L1, "opening the exam application", &frmMain::mnu2587_Click},
       CommandHandler{"mnuHelpPubs"_L1, "opening the IRS references", &frmMain::mnuHelpPubs_Click},
       CommandHandler{"mnuHelpKovrins"_L1, "opening the Kovrins pages",
                      &frmMain::mnuHelpKovrins_Click},
@@ -169,6 +179,40 @@ void frmMain::mnuHelpGlossary_Click() {
 
 void frmMain::mnu23_Click() {
   program_->Browser().OpenForm(kForm23);
+}
+
+void frmMain::mnuUpdates_Click() {
+  const Platform& machine = program_->Machine();
+  frmLoadUpdater notice(this);
+  notice.show();
+  machine.clock.Wait(kUpdateNoticeMilliseconds);
+  if (machine.desktop.StartProgram(program_->State().Paths.ProgramFolder + u'/' + kUpdateProgram)) {
+    mnuFileExit_Click();
+    return;
+  }
+  static_cast<void>(
+      machine.boxes.Show(kNoUpdateProgram, kApplicationTitle, BoxIcon::None, BoxButtons::Ok));
+}
+
+// One help window: the command brings up the one that is open.
+void frmMain::mnuHelpContents_Click() {
+  if (!help_) {
+    help_ = new frmHelp(program_->State().Paths.ProgramFolder + u"/help/tessaly2002.chm"_s, this);
+    help_->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  help_->show();
+  help_->raise();
+  help_->activateWindow();
+}
+
+void frmMain::mnu2587_Click() {
+  const Platform& machine = program_->Machine();
+  if (IsForm2587Available(machine.clock.Now().date(), QLocale())) {
+    program_->Browser().OpenForm(kForm2587);
+    return;
+  }
+  static_cast<void>(
+      machine.boxes.Show(kForm2587NotYet, kApplicationTitle, BoxIcon::None, BoxButtons::Ok));
 }
 
 void frmMain::mnuHelpAbout_Click() {

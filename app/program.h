@@ -13,6 +13,7 @@
 
 namespace tessaly {
 
+class Desktop;
 class Drives;
 class FileOperations;
 class Printer;
@@ -25,6 +26,7 @@ struct Platform {
   FileOperations& files;
   Drives& drives;
   Printer& printer;
+  Desktop& desktop;
   BrowserWindow& browserWindow;
 };
 

@@ -16,6 +16,8 @@ ProgressForm::ProgressForm(const QString& name, const QString& labelName, const 
     : QDialog(parent) {
   setObjectName(name);
   setWindowTitle(kApplicationTitle);
+  // The keys stay with the window that the user works in.
+  setAttribute(Qt::WA_ShowWithoutActivating);
   auto* label = new QLabel(text);
   label->setObjectName(labelName);
   label->setTextFormat(Qt::PlainText);

@@ -6,6 +6,7 @@
 #include "app/splash.h"
 #include "platform/clock.h"
 #include "platform/memory.h"
+#include "reference/form_2587_notice.h"
 #include "reference/tip_form.h"
 #include "store/runtime_error.h"
 
@@ -42,7 +43,16 @@ void KeepSplashUp(Program& program, Clock& clock) {
   }
 }
 
-// The program can be used all the same when this fails.
+// The program can be used all the same when one of the two notices fails.
+void ShowForm2587Notice(Program& program, frmMain& mainWindow, ErrorBoundary& errors) {
+  errors.Run(u"showing the notice about Form 2587"_s, [&] {
+    if (IsForm2587NoticeWanted(program)) {
+      frmForm2587 notice(program, errors, &mainWindow);
+      notice.exec();
+    }
+  });
+}
+
 void ShowTipOfTheDay(Program& program, frmMain& mainWindow, ErrorBoundary& errors) {
   if (program.State().ProgramOptions.TipofDay != 1) {
     return;
@@ -74,6 +84,7 @@ bool StartUp(Program& program, frmMain& mainWindow, Clock& clock, ErrorBoundary&
   if (!ShowMainWindow(program, mainWindow, clock, errors)) {
     return false;
   }
+  ShowForm2587Notice(program, mainWindow, errors);
   ShowTipOfTheDay(program, mainWindow, errors);
   return true;
 }

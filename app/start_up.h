@@ -9,8 +9,9 @@ class Program;
 class frmMain;
 
 // Brings the program up: settings, statistics, the splash screen for four seconds, the main window
-// at its place, and over it the tip of the day when the user wants it, until it is closed. False
-// when there is no main window because something failed; the user has been told.
+// at its place, and over it, one after the other until they are closed, the notice about Form 2587
+// when it is due and the tip of the day when the user wants it. False when there is no main window
+// because something failed; the user has been told.
 [[nodiscard]] bool StartUp(Program& program, frmMain& mainWindow, Clock& clock,
                            ErrorBoundary& errors);
 

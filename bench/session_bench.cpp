@@ -41,9 +41,11 @@ struct BenchProgram {
   DiskFileOperations files;
   test::FakeDrives drives;
   test::FakePrinter printer;
+  test::FakeDesktop desktop;
   test::FakeBrowserWindow browserWindow;
-  Program program{
-      {settings, clock, boxes, files, drives, printer, browserWindow}, bank.Folder(), view};
+  Program program{{settings, clock, boxes, files, drives, printer, desktop, browserWindow},
+                  bank.Folder(),
+                  view};
 };
 
 // A bank of 768,000 rows takes its time to make, so each size is made once.

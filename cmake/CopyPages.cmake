@@ -3,6 +3,8 @@
 #
 # SOURCES, PROGRAM (folders)
 
+cmake_minimum_required(VERSION 3.25)
+
 set(folders pubs kovrins glossary)
 
 file(GLOB pages RELATIVE ${SOURCES} ${SOURCES}/*.html ${SOURCES}/*.css)

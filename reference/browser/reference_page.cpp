@@ -45,7 +45,11 @@ bool ReferencePage::acceptNavigationRequest(const QUrl& target, NavigationType t
   if (!Decide(target, StepOf(type))) {
     return false;
   }
-  settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, PageRules::RunsScript(target));
+  const bool runsScript = PageRules::RunsScript(target);
+  // Setting it anew would go all the way to the page's process, in time that the page could use.
+  if (settings()->testAttribute(QWebEngineSettings::JavascriptEnabled) != runsScript) {
+    settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, runsScript);
+  }
   return true;
 }
 

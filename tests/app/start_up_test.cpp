@@ -44,7 +44,9 @@ protected:
   }
 
   frmMain mainWindow{boxes};
-  Program windowed{{settings, clock, boxes, files, drives, printer, browserWindow}, bank.Folder(), mainWindow};
+  Program windowed{{settings, clock, boxes, files, drives, printer, desktop, browserWindow},
+                   bank.Folder(),
+                   mainWindow};
   ErrorBoundary errors{boxes};
   QStringList dialogs;
 };

@@ -46,7 +46,8 @@ protected:
   }
   // As a program of its own, on these files.
   void RunOn(FileOperations& watched, std::uint8_t direction) {
-    Program other({settings, clock, boxes, watched, drives, printer, browserWindow}, bank.Folder(), view);
+    Program other({settings, clock, boxes, watched, drives, printer, desktop, browserWindow},
+                  bank.Folder(), view);
     other.Prepare();
     other.State().Backup = {direction, State().Backup.SelectedDrive};
     StatisticsBackup(other, window, dialog).Run();

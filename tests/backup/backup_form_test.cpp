@@ -187,7 +187,9 @@ protected:
   [[nodiscard]] QString Counted() { return bank.SubjectRow(TestBank::SubjectName(5)); }
 
   frmMain mainWindow{boxes};
-  Program windowed{{settings, clock, boxes, files, drives, printer, browserWindow}, bank.Folder(), mainWindow};
+  Program windowed{{settings, clock, boxes, files, drives, printer, desktop, browserWindow},
+                   bank.Folder(),
+                   mainWindow};
 };
 
 TEST_F(BackupCommandsTest, BackUpAndRestoreGiveTheDialogTheirTexts) {

@@ -62,8 +62,9 @@ protected:
   }
 
   frmMain mainWindow{boxes};
-  Program windowed{
-      {settings, clock, boxes, files, drives, printer, browserWindow}, bank.Folder(), mainWindow};
+  Program windowed{{settings, clock, boxes, files, drives, printer, desktop, browserWindow},
+                   bank.Folder(),
+                   mainWindow};
 };
 
 TEST_F(HintFormTest, ShowsTheHintBesideTheMainWindow) {

@@ -12,6 +12,7 @@
 #include "app/main_window_commands.h"
 #include "app/main_window_view.h"
 #include "platform/clock.h"
+#include "platform/desktop.h"
 #include "platform/drives.h"
 #include "platform/message_boxes.h"
 #include "store/settings_store.h"
@@ -53,6 +54,22 @@ public:
   QList<Drive> Removable() const override { return removable; }
 
   QList<Drive> removable;
+};
+
+// Opens and starts what a test lets it, and remembers what it was asked for.
+class FakeDesktop : public Desktop {
+public:
+  bool OpenLink(const QString& link) override {
+    asked.append(link);
+    return works;
+  }
+  bool StartProgram(const QString& path) override {
+    asked.append(path);
+    return works;
+  }
+
+  QStringList asked;
+  bool works = true;
 };
 
 // Answers every box at once and remembers it as "title|text".

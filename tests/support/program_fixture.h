@@ -47,8 +47,11 @@ protected:
   DiskFileOperations files;
   FakeDrives drives;
   FakePrinter printer;
+  FakeDesktop desktop;
   FakeBrowserWindow browserWindow;
-  Program program{{settings, clock, boxes, files, drives, printer, browserWindow}, bank.Folder(), view};
+  Program program{{settings, clock, boxes, files, drives, printer, desktop, browserWindow},
+                  bank.Folder(),
+                  view};
 };
 
 }  // namespace tessaly::test

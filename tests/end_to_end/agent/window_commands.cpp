@@ -10,6 +10,7 @@
 #include <QMetaEnum>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 #include <QToolBar>
 #include <QWindow>
@@ -201,7 +202,19 @@ QString PaintedBackground(QWidget& widget) {
   return picture.pixelColor(picture.width() - kFromBorder, picture.height() / 2).name();
 }
 
-// A property of a control or menu item, or "background", "placement" or "selectedText".
+// How many different colours there are in the control: a blank one has few, letters have many.
+int PaintedColours(QWidget& widget) {
+  const QImage picture = widget.grab().toImage();
+  QSet<QRgb> colours;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      colours.insert(picture.pixel(x, y));
+    }
+  }
+  return static_cast<int>(colours.size());
+}
+
+// A property of a control or menu item, or "background", "colours", "placement" or "selectedText".
 QStringList Get(const QStringList& arguments) {
   QWidget* widget = FindWidget(arguments.value(0));
   QObject* object = widget;
@@ -214,6 +227,9 @@ QStringList Get(const QStringList& arguments) {
   const QString property = arguments.value(1);
   if (property == "background"_L1 && widget != nullptr) {
     return {PaintedBackground(*widget)};
+  }
+  if (property == "colours"_L1 && widget != nullptr) {
+    return {QString::number(PaintedColours(*widget))};
   }
   if (property == "placement"_L1 && widget != nullptr) {
     return {TextOf(QRect(widget->pos(), widget->size()))};

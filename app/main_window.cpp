@@ -195,9 +195,11 @@ void frmMain::ConnectCommands() {
     action->setEnabled(true);
   }
   for (const WebLink& link : kWebLinks) {
-    connect(ActionOf(link.command), &QAction::triggered, this, [this, &link] {
+    QAction* action = ActionOf(link.command);
+    connect(action, &QAction::triggered, this, [this, &link] {
       errors_.Run(u"opening a link"_s, [&] { OpenWebLink(link, program_->Machine()); });
     });
+    action->setEnabled(true);
   }
   for (const ToolButtonEntry& entry : kToolButtons) {
     EnableToolButton(entry.button, true);
@@ -323,13 +325,11 @@ void frmMain::FitPanes() {
 
 void frmMain::EnableCommand(Command command, bool enabled) {
   const QLatin1StringView name = NameOf(command);
-  ActionOf(name)->setEnabled(enabled && HasHandler(name));
+  ActionOf(name)->setEnabled(enabled);
 }
 
 void frmMain::EnableToolButton(ToolButton button, bool enabled) {
-  const auto index = static_cast<std::size_t>(button);
-  const QLatin1StringView command = CommandOfKey(kToolButtons[index].key);
-  toolActions_[index]->setEnabled(enabled && HasHandler(command));
+  toolActions_[static_cast<std::size_t>(button)]->setEnabled(enabled);
 }
 
 void frmMain::SetPanelText(Panel panel, const QString& text) {

@@ -114,7 +114,6 @@ private:
 
   void RunCommand(const CommandHandler& handler);
   void SaveWindowPlacement();
-  [[nodiscard]] static bool HasHandler(QLatin1StringView command);
   [[nodiscard]] QAction* ActionOf(QLatin1StringView name) const;
   [[nodiscard]] QWidget* WidgetOf(Box box) const;
   [[nodiscard]] QSize ClientTwips() const;

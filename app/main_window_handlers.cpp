@@ -1,7 +1,6 @@
 // The main window's command handlers: each hands on to the part of the program that does the work.
 
 #include <QStatusBar>
-#include <algorithm>
 
 #include "app/about.h"
 #include "app/customize_toolbar.h"
@@ -67,11 +66,6 @@ const std::span<const frmMain::CommandHandler> frmMain::kHandlers = [] {
   };
   return std::span<const CommandHandler>(kTable);
 }();
-
-bool frmMain::HasHandler(QLatin1StringView command) {
-  return std::any_of(kHandlers.begin(), kHandlers.end(),
-                     [command](const CommandHandler& entry) { return entry.command == command; });
-}
 
 void frmMain::mnuFileBegin_Click() {
   program_->Session().BeginSession();

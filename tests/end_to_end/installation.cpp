@@ -28,6 +28,9 @@ Installation::Installation(const QString& parentFolder)
   Copy(built + u"/tessaly"_s, ProgramPath());
   Copy(built + u"/tessaly-print"_s, Folder() + u"/tessaly-print"_s);
   Copy(built + u"/splash01.bmp"_s, Folder() + u"/splash01.bmp"_s);
+  Copy(built + u"/tips.bmp"_s, Folder() + u"/tips.bmp"_s);
+  QDir(Folder()).mkpath(u"help"_s);
+  Copy(built + u"/help/tessaly2002.chm"_s, Folder() + u"/help/tessaly2002.chm"_s);
   UseConfigFolder(home_.path());
 }
 

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -18,7 +19,8 @@ namespace tessaly {
 
 namespace {
 
-constexpr QSize kFirstSize(980, 680);
+// Wide enough for the book's pictures.
+constexpr QSize kFirstSize(1140, 740);
 constexpr int kFindersWidth = 290;
 constexpr int kPageRole = Qt::UserRole;
 
@@ -74,7 +76,7 @@ frmHelp::frmHelp(const QString& path, QWidget* parent) : QDialog(parent), book_(
   halves->setChildrenCollapsible(false);
   auto* row = new QHBoxLayout(this);
   row->addWidget(halves);
-  resize(kFirstSize);
+  resize(kFirstSize.boundedTo(screen()->availableSize()));
   ShowPage(book_.DefaultPage());
   contents_->setFocus();
 }

@@ -18,9 +18,13 @@ public:
   [[nodiscard]] QVariant loadResource(int type, const QUrl& name) override;
 
 protected:
+  // Pictures that are wider than the window are shown smaller.
+  void resizeEvent(QResizeEvent* event) override;
   void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
 
 private:
+  [[nodiscard]] int WidestPicture() const;
+
   const HelpBook& book_;
 };
 

@@ -44,6 +44,10 @@ bool BrowserDriver::IsVisible(const QString& name) {
   return Get(name, u"visible"_s) == u"true"_s;
 }
 
+void BrowserDriver::SavePicture(const QString& path) {
+  agent_.Ask({u"save"_s, u"frmBrowser"_s, path});
+}
+
 QString BrowserDriver::PageColour() {
   return Get(u"brwWebBrowser"_s, u"background"_s);
 }

@@ -31,6 +31,7 @@ public:
   [[nodiscard]] QString Caption();
   [[nodiscard]] QString Address();
   [[nodiscard]] bool IsVisible(const QString& name);
+  void SavePicture(const QString& path);
   // The colour of the page, near its right edge.
   [[nodiscard]] QString PageColour();
 

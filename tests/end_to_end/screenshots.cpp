@@ -7,25 +7,33 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QThread>
 #include <cstdio>
 #include <stdexcept>
 
+#include "tests/end_to_end/browser_driver.h"
 #include "tests/end_to_end/program_driver.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+using tessaly::test::BrowserDriver;
 using tessaly::test::Installation;
 using tessaly::test::ProgramDriver;
 
-// The pictures show the real question bank and tips, not those of the tests.
+constexpr int kPaintMilliseconds = 500;
+
+// The pictures show the real question bank, tips and pages, not those of the tests.
 void TakeOverFiles(const Installation& installation, const QDir& folder) {
-  for (const QString& name : folder.entryList(QDir::Files)) {
-    const QString target = installation.Folder() + u'/' + name;
+  QDirIterator files(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) {
+    const QString source = files.next();
+    const QString target = installation.Folder() + u'/' + folder.relativeFilePath(source);
     QFile::remove(target);
-    if (!QFile::copy(folder.filePath(name), target)) {
+    if (!QDir().mkpath(QFileInfo(target).path()) || !QFile::copy(source, target)) {
       throw std::runtime_error("a file of the program folder cannot be copied");
     }
   }
@@ -64,6 +72,26 @@ void PhotographSession(ProgramDriver& program, Photographer& photographer) {
   program.Press(u"Ctrl+E"_s);
 }
 
+void PhotographReferences(ProgramDriver& program, Photographer& photographer,
+                          const QString& browserPicture) {
+  program.Press(u"Ctrl+B"_s);
+  program.WaitForVisible(u"txtQuestion"_s);
+  program.Press(u"Ctrl+R"_s);
+  program.WaitForVisible(u"frmHint"_s);
+  photographer.Take(u"frmHint"_s, u"hint"_s);
+  program.Click(u"cmdView"_s);
+  BrowserDriver browser(program.SocketPath());
+  browser.Connect();
+  browser.WaitForCaption(
+      u"Publication 501: Exemptions, Standard Deduction, and Filing Information"_s);
+  browser.WaitForPageColour(u"#fdfcf8"_s);
+  // The text comes after the colour of the paper.
+  QThread::msleep(kPaintMilliseconds);
+  browser.SavePicture(browserPicture);
+  browser.SendClose();
+  program.Press(u"Ctrl+E"_s);
+}
+
 struct Dialog {
   QString command;
   QString window;
@@ -79,7 +107,9 @@ void PhotographDialogs(ProgramDriver& program, Photographer& photographer) {
         Dialog{u"mnuViewOptions"_s, u"frmOptions"_s, u"settings"_s, u"cmdCancel"_s},
         Dialog{u"mnuOptionsTip"_s, u"frmTip"_s, u"tip"_s, u"cmdOK"_s},
         Dialog{u"mnuViewStats"_s, u"frmStats"_s, u"statistics"_s, u"cmdCloseStats"_s},
-        Dialog{u"mnuStatsReset"_s, u"frmResetChoices"_s, u"reset"_s, u"cmdCancel"_s}}) {
+        Dialog{u"mnuStatsReset"_s, u"frmResetChoices"_s, u"reset"_s, u"cmdCancel"_s},
+        Dialog{u"mnuFileExport"_s, u"frmBackup"_s, u"backup"_s, u"CancelButton"_s},
+        Dialog{u"mnuHelpContents"_s, u"frmHelp"_s, u"help"_s, u"cmdClose"_s}}) {
     program.Trigger(dialog.command);
     program.WaitForWindow(dialog.window);
     photographer.Take(dialog.window, dialog.picture);
@@ -97,13 +127,18 @@ int main(int argc, char* argv[]) {
     return 2;
   }
   try {
-    const Installation installation;
+    Installation installation;
+    installation.AddReferenceBrowser();
     TakeOverFiles(installation, QDir(arguments[1]));
     installation.Store(u"Options/GraphicStats"_s, u"1"_s);
+    installation.Store(u"Options/PubSource"_s, u"1"_s);
+    installation.SetVariable(u"QT_SCALE_FACTOR"_s, qEnvironmentVariable("QT_SCALE_FACTOR", u"1"_s));
     ProgramDriver program(installation);
     program.StartToMainWindow();
     Photographer photographer(program, QDir(QDir(arguments[2]).absolutePath()));
     PhotographSession(program, photographer);
+    PhotographReferences(program, photographer,
+                         QDir(arguments[2]).absoluteFilePath(u"browser.png"_s));
     PhotographDialogs(program, photographer);
   } catch (const std::runtime_error& error) {
     std::fprintf(stderr, "screenshots: %s\n", error.what());

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBrowser>
@@ -87,6 +88,14 @@ TEST_F(HelpFormTest, APageThatIsMissingSaysSoAndNothingOutsideTheBookIsShown) {
   EXPECT_TRUE(Page().toPlainText().contains(u"This page is missing in the help file."_s));
   form.ShowPage(u"file:///etc/passwd"_s);
   EXPECT_FALSE(Page().toPlainText().contains(u"root:"_s));
+}
+
+TEST_F(HelpFormTest, APictureIsNeverWiderThanThePage) {
+  for (const int width : {700, 1000}) {
+    form.resize(width, 600);
+    QTest::qWait(50);
+    EXPECT_EQ(Page().horizontalScrollBar()->maximum(), 0) << width;
+  }
 }
 
 TEST_F(HelpFormTest, EscapeClosesIt) {

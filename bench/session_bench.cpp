@@ -1,71 +1,15 @@
 // What a study session costs, beside the least that the same work on the files can cost. Each pair
-// runs on the same files; times are manual, so that preparing an iteration does not count.
+// runs on the same files.
 
-#include <benchmark/benchmark.h>
-
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <chrono>
-#include <map>
-#include <memory>
 
-#include "app/program.h"
-#include "bench/bench_bank.h"
-#include "platform/file_operations.h"
+#include "bench/bench_program.h"
 #include "store/connection.h"
-#include "tests/support/fake_browser_window.h"
-#include "tests/support/fake_printer.h"
-#include "tests/support/fakes.h"
 
 using namespace Qt::StringLiterals;
 
 namespace tessaly::bench {
 namespace {
-
-// The program without windows on a bank of its own.
-struct BenchProgram {
-  explicit BenchProgram(int rowsATable) {
-    QDir::setCurrent(bank.WorkingFolder());
-    FillBank(bank, rowsATable);
-    program.Prepare();
-  }
-
-  StudySession& Session() { return program.Session(); }
-
-  test::TestBank bank;
-  test::FakeSettings settings;
-  test::FakeClock clock;
-  test::FakeBoxes boxes;
-  test::FakeView view;
-  DiskFileOperations files;
-  test::FakeDrives drives;
-  test::FakePrinter printer;
-  test::FakeDesktop desktop;
-  test::FakeBrowserWindow browserWindow;
-  Program program{{settings, clock, boxes, files, drives, printer, desktop, browserWindow},
-                  bank.Folder(),
-                  view};
-};
-
-// A bank of 768,000 rows takes its time to make, so each size is made once.
-BenchProgram& ProgramWithRows(int rowsATable) {
-  static std::map<int, std::unique_ptr<BenchProgram>> programs;
-  auto& program = programs[rowsATable];
-  if (!program) {
-    program = std::make_unique<BenchProgram>(rowsATable);
-  }
-  QDir::setCurrent(program->bank.WorkingFolder());
-  return *program;
-}
-
-template <typename Work>
-void Measure(benchmark::State& state, const Work& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
-  state.SetIterationTime(seconds.count());
-}
 
 void BeginUnlessRunning(BenchProgram& program) {
   if (!program.Session().IsRunning()) {
@@ -181,10 +125,3 @@ BENCHMARK(BeginSession)
 
 }  // namespace
 }  // namespace tessaly::bench
-
-int main(int argc, char* argv[]) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

@@ -3,8 +3,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -68,11 +70,16 @@ void WriteAll(QFile& file, const QByteArray& content) {
 }
 
 // Each block goes to the disk at once: left to the end, the wait for a slow drive would be one long
-// silence.
+// silence. For the same reason a block is no longer than what the drive takes in a moment.
 void CopyBlocks(QFile& from, QFile& to, const std::function<void()>& afterBlock) {
-  constexpr qint64 kBlockBytes = qint64{128} * 1024;
+  constexpr qint64 kSmallestBlock = qint64{16} * 1024;
+  constexpr qint64 kLargestBlock = qint64{1024} * 1024;
+  constexpr qint64 kMomentMilliseconds = 50;
+  qint64 blockBytes = kSmallestBlock;
   while (!from.atEnd()) {
-    const QByteArray block = from.read(kBlockBytes);
+    QElapsedTimer timer;
+    timer.start();
+    const QByteArray block = from.read(blockBytes);
     if (block.isEmpty()) {
       throw RuntimeError(ErrorNumber::DeviceIo, from.fileName());
     }
@@ -80,6 +87,8 @@ void CopyBlocks(QFile& from, QFile& to, const std::function<void()>& afterBlock)
     if (!SynchronizeHandle(to.handle())) {
       RaiseSystemFailure(errno, to.fileName());
     }
+    blockBytes = timer.hasExpired(kMomentMilliseconds) ? std::max(blockBytes / 2, kSmallestBlock)
+                                                       : std::min(blockBytes * 2, kLargestBlock);
     afterBlock();
   }
 }

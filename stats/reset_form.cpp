@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -20,10 +21,10 @@ namespace tessaly {
 namespace {
 
 struct ScopeEntry {
-  ResetScope scope;
+  ResetScope scope = ResetScope::CurrentSection;
   QLatin1StringView name;  // behind "optT" and "optE"
   QLatin1StringView caption;
-  bool bySubject;
+  bool bySubject = false;
 };
 
 constexpr std::array kScopes{
@@ -109,8 +110,11 @@ ResetChoices frmResetChoices::Choices() const {
 }
 
 void frmResetChoices::cmdReset_Click() {
-  errors_.Run(u"resetting statistics"_s, [this] { reset_.Run(Choices()); });
-  progress_.reset();
+  errors_.Run(u"resetting statistics"_s, [this] {
+    // A failure's message must not stand beside a form that says that the work goes on.
+    const auto workEnds = qScopeGuard([this] { progress_.reset(); });
+    reset_.Run(Choices());
+  });
 }
 
 void frmResetChoices::chkAllDifficult_Click(bool checked) {

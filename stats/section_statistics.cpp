@@ -69,14 +69,14 @@ SectionTally CountSectionStats(const Database& answers, const QString& table, in
   }
   const QString statusField =
       mode == kTutorialMode ? status_field::kTutorialMode : status_field::kEvalMode;
+  const QString numberField = status_field::kQuestionNo;
   std::int16_t row = 0;
   bool full = false;
-  answers.ReadRows(
-      table, {statusField, status_field::kQuestionNo}, [&](const std::vector<QVariant>& values) {
-        row = CheckedAdd(row, 1);
-        const std::int16_t questionNo = ToInteger(values[1], status_field::kQuestionNo);
-        full = full || !FitsTally(tally, values[0].toString(), section, questionNo);
-      });
+  answers.ReadRows(table, {statusField, numberField}, [&](const std::vector<QVariant>& values) {
+    row = CheckedAdd(row, 1);
+    const std::int16_t questionNo = ToInteger(values[1], numberField);
+    full = full || !FitsTally(tally, values[0].toString(), section, questionNo);
+  });
   return tally;
 }
 

@@ -38,8 +38,9 @@ Recordset::Recordset(std::shared_ptr<Connection> connection, QString table, cons
 Recordset::Recordset(Recordset&&) noexcept = default;
 
 Recordset& Recordset::operator=(Recordset&& other) noexcept {
-  // The scan must go before the connection that it reads from.
+  // Statements must go before the connection that they belong to.
   scan_ = std::move(other.scan_);
+  update_ = std::move(other.update_);
   connection_ = std::move(other.connection_);
   table_ = std::move(other.table_);
   filter_ = std::move(other.filter_);
@@ -51,6 +52,7 @@ Recordset& Recordset::operator=(Recordset&& other) noexcept {
   fields_ = std::move(other.fields_);
   row_ = std::move(other.row_);
   edits_ = std::move(other.edits_);
+  updateFields_ = std::move(other.updateFields_);
   return *this;
 }
 
@@ -149,9 +151,12 @@ void Recordset::Update() {
     scan_->Reset();
     scanStandsOnRow_ = false;
   }
-  Statement update = connection_->Prepare(sql::UpdateFields(table_, names));
-  update.Bind(values);
-  update.Run();
+  if (!update_ || updateFields_ != names) {
+    update_ = std::make_unique<Statement>(connection_->Prepare(sql::UpdateFields(table_, names)));
+    updateFields_ = names;
+  }
+  update_->Bind(values);
+  update_->Run();
   row_.reset();
 }
 

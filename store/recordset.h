@@ -88,6 +88,9 @@ private:
   QStringList fields_;
   std::optional<std::vector<QVariant>> row_;
   std::optional<std::vector<std::pair<QString, QVariant>>> edits_;
+  // Of the last update: a walk that changes the same fields of many rows prepares it once.
+  std::unique_ptr<Statement> update_;
+  QStringList updateFields_;
 };
 
 }  // namespace tessaly

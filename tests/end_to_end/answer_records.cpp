@@ -1,5 +1,8 @@
 #include "tests/end_to_end/answer_records.h"
 
+#include <array>
+#include <cstddef>
+
 #include "catalogue/exam_catalogue.h"
 #include "store/connection.h"
 #include "store/question_bank.h"
@@ -41,6 +44,38 @@ void AnswerRecords::Add(const GivenAnswer& answer) {
   }
   row.timesCorrect += one;
   row.passFail = answer.passFail;
+}
+
+void AnswerRecords::Reset(int step) {
+  constexpr std::array kCodes{&StatusRecord::tutorialMode, &StatusRecord::evalMode,
+                              &StatusRecord::passFail};
+  const auto code = static_cast<std::size_t>(step / static_cast<int>(kTableCount));
+  if (code < kCodes.size()) {
+    const QString table = kTables[static_cast<std::size_t>(step % static_cast<int>(kTableCount))];
+    for (auto& [key, row] : questions) {
+      if (key.first == table) {
+        row.*kCodes[code] = kUnanswered;
+      }
+    }
+    return;
+  }
+  const bool evaluation = step == kResetSteps - 1;
+  for (auto& [name, row] : subjects) {
+    (evaluation ? row.evaluationAsked : row.tutorialAsked) = 0;
+    (evaluation ? row.evaluationCorrect : row.tutorialCorrect) = 0;
+  }
+}
+
+std::optional<int> ResetStepsBetween(AnswerRecords before, const AnswerRecords& after) {
+  for (int steps = 0; steps <= kResetSteps; ++steps) {
+    if (before == after) {
+      return steps;
+    }
+    if (steps < kResetSteps) {
+      before.Reset(steps);
+    }
+  }
+  return std::nullopt;
 }
 
 AnswerRecords ReadAnswerRecords(const QString& answersPath) {

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace tessaly::test {
@@ -45,7 +46,17 @@ struct AnswerRecords {
 
   // Counts an answer as the program has to.
   void Add(const GivenAnswer& answer);
+  // Makes one of the changes of a reset of all statistics, 0 to kResetSteps - 1 in its order, each
+  // of which is on the disk whole or not at all: one status code in one table, or one study mode's
+  // counts of all subjects.
+  void Reset(int step);
 };
+
+inline constexpr int kResetSteps = 3 * 24 + 2;
+
+// How many of a reset's changes turn one into the other; none if no number of them does.
+[[nodiscard]] std::optional<int> ResetStepsBetween(AnswerRecords before,
+                                                   const AnswerRecords& after);
 
 // Raises the failures of opening and reading the file.
 [[nodiscard]] AnswerRecords ReadAnswerRecords(const QString& answersPath);

@@ -1,28 +1,14 @@
-#include "tests/end_to_end/end_to_end_test.h"
-#include "tests/support/small_disk.h"
+#include "tests/end_to_end/disk_test.h"
 
 using namespace Qt::StringLiterals;
 
 namespace tessaly::test {
 namespace {
 
-constexpr auto kDiskFull = "Disk full"_L1;
-constexpr auto kPermissionDenied = "Permission denied"_L1;
-
-enum class ProgramFolderIs { OnTheDisk, Elsewhere };
-
-// A base of its own, so that it is there before the program folder that is made on it.
-struct DiskOfItsOwn {
-  static constexpr int kKibibytes = 48 * 1024;
-  SmallDisk disk{kKibibytes};
-};
-
-class DiskFailureTest : protected DiskOfItsOwn, public EndToEndTest {
+class DiskFailureTest : public DiskTest {
 protected:
-  explicit DiskFailureTest(ProgramFolderIs place = ProgramFolderIs::Elsewhere)
-      : EndToEndTest(place == ProgramFolderIs::OnTheDisk ? disk.Folder() : QDir::tempPath()) {}
+  using DiskTest::DiskTest;
 
-  void SetUp() override { SKIP_UNLESS_MOUNTED(disk); }
   void ExpectBeginFails(int number, const QString& text) {
     program.Press(u"Ctrl+B"_s);
     ExpectErrorBox(number, text);

@@ -51,6 +51,12 @@ void Installation::UseConfigFolder(const QString& folder) {
   Store(u"Options/Suppress2587Msg"_s, u"1"_s);
 }
 
+void Installation::SlowDown(const QString& folder, int milliseconds) {
+  SetVariable(u"LD_PRELOAD"_s, QString::fromUtf8(TESSALY_SLOW_VOLUME_LIBRARY));
+  SetVariable(u"TESSALY_SLOW_VOLUME"_s, folder);
+  SetVariable(u"TESSALY_SLOW_MILLISECONDS"_s, QString::number(milliseconds));
+}
+
 QString Installation::SettingsPath() const {
   return configFolder_ + u'/' + kApplicationTitle + u".ini"_s;
 }

@@ -32,6 +32,10 @@ public:
   // An environment variable of the program beside those that every test sets.
   void SetVariable(const QString& name, const QString& value) { variables_.insert(name, value); }
 
+  // Makes the volume that is mounted at `folder` as slow for the program as an old drive: 16 KiB,
+  // or a flush, in this time. When it is taken out, it fails for what the program has open there.
+  void SlowDown(const QString& folder, int milliseconds);
+
   [[nodiscard]] QString Folder() const { return bank.Folder(); }
   [[nodiscard]] QString ProgramPath() const { return Folder() + QStringLiteral("/tessaly"); }
   [[nodiscard]] QString WorkingFolder() const { return workingFolder_; }

@@ -3,23 +3,16 @@
 // a number to draw the moments from. Prints its figures as "name value"; fails on any loss.
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QTemporaryDir>
-#include <chrono>
+#include <array>
 #include <cstdio>
-#include <functional>
 #include <map>
 #include <optional>
 #include <random>
 #include <stdexcept>
-#include <thread>
 
 #include "catalogue/exam_catalogue.h"
-#include "store/connection.h"
-#include "store/runtime_error.h"
-#include "tests/end_to_end/answer_records.h"
-#include "tests/end_to_end/program_driver.h"
+#include "tests/end_to_end/kill_runs.h"
 
 using namespace Qt::StringLiterals;
 
@@ -103,8 +96,7 @@ private:
   void ReadVerdict(const GivenAnswer& answer);
   void GoOn();
   void KillDuring(Phase phase);
-  void KillWithin(qint64 nanoseconds);
-  qint64 Timed(const std::function<void()>& act) const;
+  void KillWithin(qint64 nanoseconds) { KillAtRandom(program_, random_, nanoseconds); }
   void LookAtCompaction();
   void Verify();
   int Draw(int last) { return std::uniform_int_distribution(0, last)(random_); }
@@ -179,13 +171,6 @@ void KilledSessions::StartAndBegin() {
   }
   beginNanoseconds_ = Timed([this] { program_.Press(u"Ctrl+B"_s); });
   program_.WaitForVisible(u"txtQuestion"_s);
-}
-
-qint64 KilledSessions::Timed(const std::function<void()>& act) const {
-  QElapsedTimer timer;
-  timer.start();
-  act();
-  return timer.nsecsElapsed();
 }
 
 void KilledSessions::GiveAnswers(int count) {
@@ -267,13 +252,6 @@ void KilledSessions::KillDuring(Phase phase) {
   }
 }
 
-// At any moment of what takes that long, or shortly after it.
-void KilledSessions::KillWithin(qint64 nanoseconds) {
-  const qint64 moment = std::uniform_int_distribution<qint64>(0, nanoseconds * 5 / 4)(random_);
-  std::this_thread::sleep_for(std::chrono::nanoseconds(moment));
-  program_.Kill();
-}
-
 void KilledSessions::LookAtCompaction() {
   const BankPaths& paths = installation_.bank.Paths();
   if (!QFile::exists(paths.QuestionsDbPath) || !QFile::exists(paths.AnswersDbPath) ||
@@ -285,29 +263,15 @@ void KilledSessions::LookAtCompaction() {
   }
 }
 
-// On copies, journals included, so that the program itself meets what the kill has left.
 void KilledSessions::Verify() {
-  const QTemporaryDir copies;
-  const BankPaths& paths = installation_.bank.Paths();
-  const QString questions = copies.filePath(u"questions"_s);
-  const QString answers = copies.filePath(u"answers"_s);
-  for (const QString& ending : {u""_s, u"-journal"_s}) {
-    QFile::copy(paths.QuestionsDbPath + ending, questions + ending);
-    QFile::copy(paths.AnswersDbPath + ending, answers + ending);
-  }
-  AnswerRecords found;
-  try {
-    for (const QString& path : {questions, answers}) {
-      if (!Connection(path, kPassword, Connection::Access::OpenExisting).IsIntact()) {
-        ++figures_.failedChecks;
-      }
-    }
-    found = ReadAnswerRecords(answers);
-  } catch (const RuntimeError& error) {
+  const FoundFiles files = LookAtFiles(installation_.bank.Paths());
+  figures_.failedChecks += files.failedChecks;
+  if (!files.failure.empty()) {
     ++figures_.failedOpens;
-    std::fprintf(stderr, "run %d: %s\n", figures_.runs, error.what());
+    std::fprintf(stderr, "run %d: %s\n", figures_.runs, files.failure.c_str());
     return;
   }
+  const AnswerRecords& found = files.answers;
   AnswerRecords withLast = shown_;
   if (underWay_) {
     withLast.Add(*underWay_);

@@ -54,6 +54,9 @@ public:
   void Move(int left, int top);
   void Minimize() { Ask({QStringLiteral("minimize"), QStringLiteral("frmMain")}); }
   void Maximize() { Ask({QStringLiteral("maximize"), QStringLiteral("frmMain")}); }
+  // Starts an act, and leaves the program to it: what is asked meanwhile is answered when the work
+  // lets the windows have their turn.
+  void Start(const QStringList& act) { Ask(QStringList{QStringLiteral("later")} + act); }
   // Sends an act and does not wait for anything.
   void Send(const QStringList& request) { agent_.Send(request); }
 

@@ -65,7 +65,9 @@ protected:
     QList<QByteArray> files;
     for (const QString& folder : {installation.Folder(), installation.WorkingFolder()}) {
       for (const QString& name : NamesIn(folder)) {
-        files.append(name.toUtf8() + ": " + ReadBytes(folder + u'/' + name));
+        const QString path = folder + u'/' + name;
+        files.append(name.toUtf8() + ": " +
+                     (QFileInfo(path).isDir() ? QByteArray() : ReadBytes(path)));
       }
     }
     return files;

@@ -43,8 +43,14 @@ class FakeClock : public Clock {
 public:
   QDateTime Now() const override { return now; }
   void Sleep(int milliseconds) override { now = now.addMSecs(milliseconds); }
-  void Wait(int milliseconds) override { Sleep(milliseconds); }
+  void Wait(int milliseconds) override {
+    if (whenWaiting) {
+      whenWaiting();
+    }
+    Sleep(milliseconds);
+  }
 
+  std::function<void()> whenWaiting;
   QDateTime now{QDate(2001, 6, 15), QTime(10, 0)};
 };
 

@@ -2,8 +2,12 @@
 
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/statvfs.h>
 
+#include <QDir>
 #include <QFile>
+
+#include "platform/drives.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,12 +22,46 @@ bool HaveOwnMounts() {
   return own;
 }
 
+bool MountVolume(const QString& folder, const QByteArray& options) {
+  return HaveOwnMounts() && ::mount("tmpfs", QFile::encodeName(folder).constData(), "tmpfs", 0,
+                                    options.constData()) == 0;
+}
+
+void Unmount(const QString& folder) {
+  ::umount2(QFile::encodeName(folder).constData(), MNT_DETACH);
+}
+
+// From here on the place of removable drives is empty.
+bool HaveOwnMedia() {
+  static const bool own = [] {
+    if (!HaveOwnMounts()) {
+      return false;
+    }
+    for (const Drive& drive : SystemDrives().Removable()) {
+      Unmount(drive.Path);
+    }
+    return SystemDrives().Removable().isEmpty() && MountVolume(u"/media"_s, "size=64k");
+  }();
+  return own;
+}
+
+qint64 BytesLeft(const QString& folder) {
+  struct statvfs volume {};
+  return ::statvfs(QFile::encodeName(folder).constData(), &volume) == 0
+             ? static_cast<qint64>(volume.f_bavail * volume.f_frsize)
+             : 0;
+}
+
+QString FolderTemplate(DiskPlace place) {
+  const bool inMedia = place == DiskPlace::Media && HaveOwnMedia();
+  return (inMedia ? u"/media"_s : QDir::tempPath()) + u"/disk-XXXXXX"_s;
+}
+
 }  // namespace
 
-SmallDisk::SmallDisk(int kibibytes) {
-  const QByteArray size = "size=" + QByteArray::number(kibibytes) + "k";
-  mounted_ = HaveOwnMounts() && ::mount("tmpfs", QFile::encodeName(Folder()).constData(), "tmpfs",
-                                        0, size.constData()) == 0;
+SmallDisk::SmallDisk(int kibibytes, DiskPlace place) : folder_(FolderTemplate(place)) {
+  mounted_ = (place == DiskPlace::Temporary || HaveOwnMedia()) &&
+             MountVolume(Folder(), "size=" + QByteArray::number(kibibytes) + "k");
 }
 
 SmallDisk::~SmallDisk() {
@@ -32,19 +70,19 @@ SmallDisk::~SmallDisk() {
 
 void SmallDisk::TakeOut() {
   if (mounted_) {
-    ::umount2(QFile::encodeName(Folder()).constData(), MNT_DETACH);
+    Unmount(Folder());
     mounted_ = false;
   }
 }
 
-void SmallDisk::Fill() {
+void SmallDisk::Fill(qint64 bytesLeft) {
   QFile ballast(BallastPath());
   const QByteArray block(4096, 'b');
   if (!ballast.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) {
     ADD_FAILURE() << "the ballast cannot be written";
     return;
   }
-  while (ballast.write(block) == block.size()) {
+  while (BytesLeft(Folder()) > bytesLeft && ballast.write(block) == block.size()) {
   }
 }
 

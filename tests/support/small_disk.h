@@ -8,11 +8,16 @@
 
 namespace tessaly::test {
 
-// A volume of its own that can be full or read-only. Only root can mount one; only this process
-// sees it, and it is gone with it.
+// Where a volume is mounted: in a temporary folder, or where the desktop mounts what is plugged in,
+// so that the program takes it for a removable drive. The machine's own removable drives are then
+// out of sight: no test may write to them.
+enum class DiskPlace { Temporary, Media };
+
+// A volume of its own that can be full or read-only. Only root can mount one; only this process and
+// those that it starts see it, and it is gone with them.
 class SmallDisk {
 public:
-  explicit SmallDisk(int kibibytes);
+  explicit SmallDisk(int kibibytes, DiskPlace place = DiskPlace::Temporary);
   SmallDisk(const SmallDisk&) = delete;
   SmallDisk& operator=(const SmallDisk&) = delete;
   ~SmallDisk();
@@ -21,8 +26,8 @@ public:
   [[nodiscard]] QString Folder() const { return folder_.path(); }
   [[nodiscard]] QString FilePath(const QString& name) const { return folder_.filePath(name); }
 
-  // Takes all the room that is left, and gives it back.
-  void Fill();
+  // Takes all the room that is left, or all but some of it, and gives it back.
+  void Fill(qint64 bytesLeft = 0);
   void Free();
   void SetReadOnly(bool readOnly);
   // Pulls the volume out with all that is on it: its folder stays, empty and on another volume.

@@ -40,6 +40,8 @@ void UiAgent::Serve(const QStringList& request) {
       Answer(QStringList{u"ok"_s} + read(arguments));
     } else if (const ActCommand act = FindActCommand(command)) {
       Act([act, arguments] { act(arguments); });
+    } else if (command == "later"_L1) {
+      ActLater(arguments);
     } else {
       throw Refusal("no such command: " + command.toStdString());
     }
@@ -68,6 +70,22 @@ void UiAgent::Act(const std::function<void()>& act) {
   watch.start(kLookEveryMilliseconds);
   act();
   answerOnce();
+}
+
+// What cannot be done then ends the program, which the driver tells with its errors.
+void UiAgent::ActLater(const QStringList& request) {
+  const ActCommand act = FindActCommand(request.value(0));
+  if (act == nullptr) {
+    throw Refusal("no such act: " + request.value(0).toStdString());
+  }
+  Answer({u"ok"_s});
+  QTimer::singleShot(0, this, [act, arguments = request.mid(1)] {
+    try {
+      act(arguments);
+    } catch (const Refusal& refusal) {
+      qFatal("%s", refusal.what());
+    }
+  });
 }
 
 void UiAgent::Answer(const QStringList& fields) {

@@ -25,6 +25,8 @@ private:
   void Serve(const QStringList& request);
   // Answers when the act is done, or as soon as a dialog that it opened waits for the user.
   void Act(const std::function<void()>& act);
+  // Answers before the act, so that the program can be looked at while it is at work.
+  void ActLater(const QStringList& request);
   void Answer(const QStringList& fields);
 
   QLocalServer server_;

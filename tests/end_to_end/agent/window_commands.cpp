@@ -102,9 +102,14 @@ void ClickAt(QWidget& widget, const QPoint& place, const QString& name) {
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, inWindow);
 }
 
+// Check boxes and option buttons have their mark at their left end, and may be wider than it needs.
 void Click(const QStringList& arguments) {
+  constexpr int kMark = 8;
   QWidget& widget = ClickableNamed(arguments.value(0));
-  ClickAt(widget, widget.rect().center(), arguments.value(0));
+  const auto* button = qobject_cast<QAbstractButton*>(&widget);
+  const bool hasMark = button != nullptr && button->isCheckable();
+  const QPoint center = widget.rect().center();
+  ClickAt(widget, hasMark ? QPoint(kMark, center.y()) : center, arguments.value(0));
 }
 
 void ClickItem(const QStringList& arguments) {

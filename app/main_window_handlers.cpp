@@ -184,8 +184,7 @@ void frmMain::mnuUpdates_Click() {
     mnuFileExit_Click();
     return;
   }
-  static_cast<void>(
-      machine.boxes.Show(kNoUpdateProgram, kApplicationTitle, BoxIcon::None, BoxButtons::Ok));
+  machine.boxes.ShowMessage(kNoUpdateProgram, kApplicationTitle);
 }
 
 // One help window: the command brings up the one that is open.
@@ -205,8 +204,7 @@ void frmMain::mnu2587_Click() {
     program_->Browser().OpenForm(kForm2587);
     return;
   }
-  static_cast<void>(
-      machine.boxes.Show(kForm2587NotYet, kApplicationTitle, BoxIcon::None, BoxButtons::Ok));
+  machine.boxes.ShowMessage(kForm2587NotYet, kApplicationTitle);
 }
 
 void frmMain::mnuHelpAbout_Click() {

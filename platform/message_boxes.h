@@ -24,6 +24,10 @@ public:
   void ShowInformation(const QString& text, const QString& title) {
     static_cast<void>(Show(text, title, BoxIcon::Information, BoxButtons::Ok));
   }
+  // With no icon.
+  void ShowMessage(const QString& text, const QString& title) {
+    static_cast<void>(Show(text, title, BoxIcon::None, BoxButtons::Ok));
+  }
   [[nodiscard]] bool AskYesNo(const QString& text, const QString& title) {
     return Show(text, title, BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
   }

@@ -86,7 +86,7 @@ void frmForm2587::cmdOK_Click() {
   errors_.Run(u"keeping the notice from being shown again"_s, [this] {
     if (suppress_->isChecked()) {
       program_.State().ProgramOptions.Suppress2587Msg = 1;
-      program_.Machine().settings.Write(u"Options"_s, u"Suppress2587Msg"_s, u"1"_s);
+      program_.Machine().settings.Write(settings_section::kOptions, u"Suppress2587Msg"_s, u"1"_s);
     }
   });
   accept();
@@ -94,7 +94,8 @@ void frmForm2587::cmdOK_Click() {
 
 bool IsForm2587NoticeWanted(Program& program) {
   const Platform& machine = program.Machine();
-  const QString suppressed = machine.settings.Read(u"Options"_s, u"Suppress2587Msg"_s, u"0"_s);
+  const QString suppressed =
+      machine.settings.Read(settings_section::kOptions, u"Suppress2587Msg"_s, u"0"_s);
   return suppressed != u"1"_s && IsForm2587NoticeDue(machine.clock.Now().date());
 }
 

@@ -30,8 +30,7 @@ const std::array<WebLink, 8> kWebLinks{{
 
 void OpenWebLink(const WebLink& link, const Platform& machine) {
   if (!machine.desktop.OpenLink(link.target)) {
-    static_cast<void>(
-        machine.boxes.Show(link.failure, kApplicationTitle, BoxIcon::None, BoxButtons::Ok));
+    machine.boxes.ShowMessage(link.failure, kApplicationTitle);
   }
 }
 

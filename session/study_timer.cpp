@@ -100,8 +100,8 @@ void StudyTimer::ShowRemaining() {
   if (remaining == 0) {
     // Set first: the timer goes on ticking while the message is open.
     state_.Time.Exceeded = true;
-    static_cast<void>(boxes_.Show(u"Study time for this section has exceeded three hours"_s,
-                                  kApplicationTitle, BoxIcon::None, BoxButtons::Ok));
+    boxes_.ShowMessage(u"Study time for this section has exceeded three hours"_s,
+                       kApplicationTitle);
   }
 }
 

@@ -64,9 +64,8 @@ void StatisticsReset::Run(const ResetChoices& choices) {
     }
     view_.UnloadForms();
   }
-  static_cast<void>(
-      boxes_.Show(report_.isEmpty() ? u"No statistics were selected to be deleted."_s : report_,
-                  kStatisticsTitle, BoxIcon::None, BoxButtons::Ok));
+  boxes_.ShowMessage(report_.isEmpty() ? u"No statistics were selected to be deleted."_s : report_,
+                     kStatisticsTitle);
 }
 
 void StatisticsReset::ConfirmAllDifficult() {

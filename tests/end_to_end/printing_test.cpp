@@ -158,7 +158,6 @@ TEST_F(PrintingTest, WithoutItsPrintProgramThereIsAMessage) {
 TEST_F(PrintingTest, AfterAFailureTheSameQuestionCanBePrintedAgain) {
   PrintQueue queue;
   SKIP_WITHOUT_QUEUE(queue);
-  const QString server = queue.Server();
   queue.Stop();
   Use(queue);
   Begin();

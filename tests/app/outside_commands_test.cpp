@@ -2,7 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QLabel>
+#include <QTimer>
 
 #include "app/main_window.h"
 #include "reference/updater_form.h"
@@ -72,7 +72,9 @@ TEST_F(OutsideCommandsTest, AnUpdateIsStartedOnlyAfterItsNoticeWasShownAndCloses
     EXPECT_EQ(desktop.asked, QStringList());
     shown = notice->windowTitle();
   };
-  Trigger(u"mnuUpdates"_s);
+  QTimer::singleShot(0, &mainWindow, [this] { Trigger(u"mnuUpdates"_s); });
+  // Ends because the window closes.
+  EXPECT_EQ(QCoreApplication::exec(), 0);
   EXPECT_EQ(shown, u"Updater"_s);
   EXPECT_EQ(desktop.asked, QStringList{bank.Folder() + u"/wiseupdt.exe"_s});
   EXPECT_FALSE(mainWindow.isVisible());

@@ -30,6 +30,12 @@ constexpr QSize kSmallestSize(480, 320);
 constexpr double kPartOfScreen = 0.9;
 constexpr double kZoomStep = 1.1;
 
+// Every other failure has an error, and a page that shows it.
+bool EndedWithItsProcess(const QWebEngineLoadingInfo& loading) {
+  return loading.status() == QWebEngineLoadingInfo::LoadFailedStatus &&
+         loading.errorDomain() == QWebEngineLoadingInfo::NoErrorDomain;
+}
+
 }  // namespace
 
 frmBrowser::frmBrowser(const QString& programFolder, CommandChannel& channel)
@@ -225,12 +231,11 @@ void frmBrowser::brwWebBrowser_LoadingChanged(const QWebEngineLoadingInfo& loadi
   progress_->setVisible(page_.isLoading());
   if (loading.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
     lastAddress_ = loading.url();
-    goneInLoad_ = false;
     ShowPlace();
     return;
   }
   // What ended here may have made room for the next.
-  if (goneInLoad_ || page_.isLoading()) {
+  if (EndedWithItsProcess(loading) || page_.isLoading()) {
     return;
   }
   processGone_ = false;
@@ -245,7 +250,6 @@ void frmBrowser::ReportDocument(const QUrl& address, int httpStatus) {
 
 // A page is loaded once more. Where that fails as well, no process for pages can be made.
 void frmBrowser::brwWebBrowser_ProcessGone() {
-  goneInLoad_ = true;
   if (processGone_) {
     Q_EMIT PageLost();
     return;

@@ -79,7 +79,6 @@ private:
   QUrl lastAddress_;          // of the load that was begun last
   bool refused_ = false;      // the link that was clicked last
   bool processGone_ = false;  // the page's process, and nothing was shown since
-  bool goneInLoad_ = false;   // the same, and this load has come to nothing
 };
 
 }  // namespace tessaly

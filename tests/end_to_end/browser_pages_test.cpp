@@ -86,6 +86,20 @@ TEST_F(BrowserPagesTest, NothingOfThePagesIsLeftOnTheDisk) {
   EXPECT_FALSE(home.exists(u".cache/tessaly-browser"_s));
 }
 
+// The engine hears of the end before, while or after it begins to load the next page.
+TEST_F(BrowserPagesTest, ThePagesProcessThatEndsAroundANavigationLosesNoDocument) {
+  OpenPage(u"pubmenu.html"_s);
+  for (unsigned long milliseconds = 0; milliseconds < 12; ++milliseconds) {
+    const QString page = u"page%1.html"_s.arg(milliseconds);
+    WritePage(page, {});
+    KillAll({DescendantsOf(QCoreApplication::applicationPid()).last()});
+    QThread::msleep(milliseconds);
+    window.Navigate(AddressOf(page));
+    WaitUntil(u"the page"_s, [&] { return reports.titles.last() == page; });
+  }
+  EXPECT_FALSE(reports.gone);
+}
+
 TEST_F(BrowserPagesTest, AMissingPageSaysSo) {
   Open(AddressOf(u"pubs/none.html"_s));
   EXPECT_EQ(reports.lastStatus, 0);

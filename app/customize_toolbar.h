@@ -47,11 +47,11 @@ private:
   ToolbarArrangement defaults_;
   QListWidget* available_;
   QListWidget* current_;
-  QPushButton* add_;
-  QPushButton* remove_;
-  QPushButton* moveUp_;
-  QPushButton* moveDown_;
-  QPushButton* reset_;
+  QPushButton* add_ = nullptr;
+  QPushButton* remove_ = nullptr;
+  QPushButton* moveUp_ = nullptr;
+  QPushButton* moveDown_ = nullptr;
+  QPushButton* reset_ = nullptr;
 };
 
 }  // namespace tessaly

@@ -53,10 +53,16 @@ CupsPrinter::CupsPrinter(const QString& programFolder)
     : program_(programFolder + u"/tessaly-print"_s) {}
 
 std::unique_ptr<PrintDocument> CupsPrinter::BeginDocument(const QString& title) {
-  const Paper paper = PaperIn(Run({u"paper"_s}, {}));
-  return std::make_unique<PdfDocument>(title, paper, [this, title](const QByteArray& pdf) {
-    Run({u"job"_s, title}, pdf);
-  });
+  return std::make_unique<PdfDocument>(
+      title, DefaultPaper(), [this, title](const QByteArray& pdf) { PrintPdf(title, pdf); });
+}
+
+Paper CupsPrinter::DefaultPaper() {
+  return PaperIn(Run({u"paper"_s}, {}));
+}
+
+void CupsPrinter::PrintPdf(const QString& title, const QByteArray& pdf) {
+  Run({u"job"_s, title}, pdf);
 }
 
 QByteArray CupsPrinter::Run(const QStringList& arguments, const QByteArray& input) {

@@ -3,6 +3,7 @@
 
 #include <QStringList>
 
+#include "platform/paper.h"
 #include "platform/printer.h"
 
 namespace tessaly {
@@ -15,6 +16,11 @@ public:
   explicit CupsPrinter(const QString& programFolder);
 
   [[nodiscard]] std::unique_ptr<PrintDocument> BeginDocument(const QString& title) override;
+
+  // The default printer's; raises 482 as BeginDocument does.
+  [[nodiscard]] Paper DefaultPaper();
+  // Prints a finished document, as PrintDocument::End does.
+  void PrintPdf(const QString& title, const QByteArray& pdf);
 
 private:
   // Returns what the program printed; raises 482 with its reason.

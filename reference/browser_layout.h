@@ -6,18 +6,24 @@
 namespace tessaly {
 
 // Where the reference browser's controls stand, in twips from the upper left corner of its window:
-// the page, and below it a bar that begins with the way back and ends with the two buttons.
+// the page, above it the bar to find a text where that is shown, and below it a bar that begins
+// with the way back and ends with the two buttons.
 struct BrowserLayout {
+  TwipsRect find;
   TwipsRect page;
   TwipsRect progress;  // along the page's lower edge
   TwipsRect back;
   TwipsRect forward;
+  TwipsRect findButton;
+  TwipsRect print;
   TwipsRect location;
   TwipsRect pubList;
   TwipsRect close;
 };
 
-[[nodiscard]] BrowserLayout ArrangeBrowser(std::int32_t width, std::int32_t height);
+// `findHeight` is what the bar to find a text takes, 0 where it is hidden.
+[[nodiscard]] BrowserLayout ArrangeBrowser(std::int32_t width, std::int32_t height,
+                                           std::int32_t findHeight);
 
 }  // namespace tessaly
 

@@ -10,7 +10,7 @@ namespace tessaly {
 namespace {
 
 struct ErrorEntry {
-  ErrorNumber number;
+  ErrorNumber number{};
   QLatin1StringView text;
 };
 

@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QTimer>
 #include <QToolButton>
+#include <QWebEngineFindTextResult>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineView>
 #include <algorithm>
@@ -16,6 +17,7 @@
 #include "app/elided_label.h"
 #include "app/twips.h"
 #include "reference/browser/command_channel.h"
+#include "reference/browser/find_bar.h"
 #include "reference/browser_layout.h"
 
 using namespace Qt::StringLiterals;
@@ -25,6 +27,8 @@ namespace tessaly {
 namespace {
 
 constexpr int kPollMilliseconds = 100;
+// The engine itself would wait for two minutes where the network swallows everything.
+constexpr int kPatienceMilliseconds = 20'000;
 constexpr QSize kFirstSize(960, 760);
 constexpr QSize kSmallestSize(480, 320);
 constexpr double kPartOfScreen = 0.9;
@@ -39,16 +43,26 @@ bool EndedWithItsProcess(const QWebEngineLoadingInfo& loading) {
 }  // namespace
 
 frmBrowser::frmBrowser(const QString& programFolder, CommandChannel& channel)
-    : channel_(channel), rules_(programFolder), guard_(rules_), page_(rules_, &profile_, nullptr) {
+    : channel_(channel),
+      noAnswer_(QUrl::fromLocalFile(programFolder + u"/noanswer.html"_s)),
+      rules_(programFolder),
+      guard_(rules_),
+      page_(rules_, &profile_, nullptr),
+      printing_(programFolder, page_) {
   setObjectName(u"frmBrowser"_s);
   setWindowTitle(u"Tessaly"_s);
   BuildPage();
   BuildBar();
+  BuildFindBar();
   BuildButtons();
   timer_ = new QTimer(this);
   timer_->setObjectName(u"timTimer"_s);
   timer_->setInterval(kPollMilliseconds);
   connect(timer_, &QTimer::timeout, this, &frmBrowser::timTimer_Timer);
+  patience_ = new QTimer(this);
+  patience_->setSingleShot(true);
+  patience_->setInterval(kPatienceMilliseconds);
+  connect(patience_, &QTimer::timeout, this, &frmBrowser::timPatience_Timer);
   ConnectPage();
   AddShortcuts();
   ChooseSize();
@@ -74,22 +88,48 @@ void frmBrowser::BuildBar() {
       u"QProgressBar { border: none; background: transparent; }"
       u"QProgressBar::chunk { background: palette(highlight); }"_s);
   progress_->hide();
-  const auto newArrow = [this](const QString& name, QStyle::StandardPixmap icon,
-                               QWebEnginePage::WebAction action) {
-    auto* arrow = new QToolButton(this);
-    arrow->setObjectName(name);
-    arrow->setDefaultAction(browser_->pageAction(action));
-    arrow->defaultAction()->setIcon(style()->standardIcon(icon));
-    arrow->setAutoRaise(true);
-    return arrow;
-  };
-  back_ = newArrow(u"cmdBack"_s, QStyle::SP_ArrowBack, QWebEnginePage::Back);
-  forward_ = newArrow(u"cmdForward"_s, QStyle::SP_ArrowForward, QWebEnginePage::Forward);
+  back_ = NewTool(u"cmdBack"_s, browser_->pageAction(QWebEnginePage::Back),
+                  style()->standardIcon(QStyle::SP_ArrowBack));
+  forward_ = NewTool(u"cmdForward"_s, browser_->pageAction(QWebEnginePage::Forward),
+                     style()->standardIcon(QStyle::SP_ArrowForward));
+  find_ = NewTool(u"cmdFind"_s, new QAction(u"Find"_s, this), QIcon(u":/pictures/find.png"_s),
+                  QKeySequence::Find);
+  connect(find_->defaultAction(), &QAction::triggered, this, [this] { ShowFindBar(true); });
+  print_ = NewTool(u"cmdPrint"_s, new QAction(u"Print"_s, this), QIcon(u":/pictures/print.png"_s),
+                   QKeySequence::Print);
+  connect(print_->defaultAction(), &QAction::triggered, &printing_, &PagePrinting::Print);
+  connect(&printing_, &PagePrinting::Printing, print_->defaultAction(), &QAction::setDisabled);
   place_ = new ElidedLabel(this);
   place_->setObjectName(u"lblPlace"_s);
   place_->setAccessibleName(u"Place of this page"_s);
   place_->setTextFormat(Qt::PlainText);
   place_->setForegroundRole(QPalette::PlaceholderText);
+}
+
+QToolButton* frmBrowser::NewTool(const QString& name, QAction* action, const QIcon& icon,
+                                 const QKeySequence& keys) {
+  action->setIcon(icon);
+  if (!keys.isEmpty()) {
+    action->setShortcut(keys);
+    action->setToolTip(u"%1 (%2)"_s.arg(action->text(), keys.toString(QKeySequence::NativeText)));
+    browser_->addAction(action);
+  }
+  auto* tool = new QToolButton(this);
+  tool->setObjectName(name);
+  tool->setDefaultAction(action);
+  tool->setAutoRaise(true);
+  return tool;
+}
+
+void frmBrowser::BuildFindBar() {
+  findBar_ = new FindBar(this);
+  findBar_->hide();
+  connect(findBar_, &FindBar::Asked, this, &frmBrowser::Find);
+  connect(findBar_, &FindBar::Closed, this, [this] { ShowFindBar(false); });
+  connect(&page_, &QWebEnginePage::findTextFinished, this,
+          [this](const QWebEngineFindTextResult& found) {
+            findBar_->ShowPlaces(found.activeMatch(), found.numberOfMatches());
+          });
 }
 
 void frmBrowser::BuildButtons() {
@@ -125,7 +165,9 @@ void frmBrowser::AddShortcuts() {
   const auto add = [this](const QKeySequence& keys, auto handler) {
     connect(new QShortcut(keys, this), &QShortcut::activated, this, handler);
   };
-  add(Qt::Key_Escape, [this] { cmdClose_Click(); });
+  add(Qt::Key_Escape, [this] { Escape(); });
+  add(QKeySequence::FindNext, [this] { findBar_->FindNext(); });
+  add(QKeySequence::FindPrevious, [this] { findBar_->FindPrevious(); });
   add(QKeySequence::Back, [this] { browser_->back(); });
   add(QKeySequence::Forward, [this] { browser_->forward(); });
   add(QKeySequence::Refresh, [this] { browser_->reload(); });
@@ -160,14 +202,22 @@ void frmBrowser::Obey(const QStringList& command) {
 
 void frmBrowser::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  if (isMinimized()) {
-    return;
+  if (!isMinimized()) {
+    Arrange();
   }
-  const BrowserLayout layout = ArrangeBrowser(ToTwips(width()), ToTwips(height()));
+}
+
+void frmBrowser::Arrange() {
+  const int findHeight = findBar_->isHidden() ? 0 : findBar_->sizeHint().height();
+  const BrowserLayout layout =
+      ArrangeBrowser(ToTwips(width()), ToTwips(height()), ToTwips(findHeight));
+  findBar_->setGeometry(ToPixels(layout.find));
   browser_->setGeometry(ToPixels(layout.page));
   progress_->setGeometry(ToPixels(layout.progress));
   back_->setGeometry(ToPixels(layout.back));
   forward_->setGeometry(ToPixels(layout.forward));
+  find_->setGeometry(ToPixels(layout.findButton));
+  print_->setGeometry(ToPixels(layout.print));
   place_->setGeometry(ToPixels(layout.location));
   pubList_->setGeometry(ToPixels(layout.pubList));
   close_->setGeometry(ToPixels(layout.close));
@@ -201,6 +251,27 @@ void frmBrowser::Zoom(double factor) {
   browser_->setZoomFactor(browser_->zoomFactor() * factor);
 }
 
+void frmBrowser::ShowFindBar(bool visible) {
+  findBar_->setVisible(visible);
+  Arrange();
+  if (visible) {
+    findBar_->Begin();
+  } else {
+    Find({}, false);
+    browser_->setFocus();
+  }
+}
+
+void frmBrowser::Find(const QString& text, bool backward) {
+  QWebEnginePage::FindFlags flags;
+  flags.setFlag(QWebEnginePage::FindBackward, backward);
+  page_.findText(text, flags);
+}
+
+void frmBrowser::Escape() {
+  findBar_->isVisible() ? ShowFindBar(false) : cmdClose_Click();
+}
+
 QString frmBrowser::LocationName() const {
   return page_.title();
 }
@@ -219,6 +290,7 @@ void frmBrowser::timTimer_Timer() {
 }
 
 void frmBrowser::brwWebBrowser_NavigateComplete(const QUrl& address) {
+  patience_->stop();
   ShowPlace();
   channel_.Report({browser_report::kNavigated, LocationName()});
   // To another place of the same document, nothing is loaded.
@@ -231,6 +303,7 @@ void frmBrowser::brwWebBrowser_LoadingChanged(const QWebEngineLoadingInfo& loadi
   progress_->setVisible(page_.isLoading());
   if (loading.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
     lastAddress_ = loading.url();
+    lastAddress_.isLocalFile() ? patience_->stop() : patience_->start();
     ShowPlace();
     return;
   }
@@ -238,6 +311,7 @@ void frmBrowser::brwWebBrowser_LoadingChanged(const QWebEngineLoadingInfo& loadi
   if (EndedWithItsProcess(loading) || page_.isLoading()) {
     return;
   }
+  patience_->stop();
   processGone_ = false;
   const bool http = loading.errorDomain() == QWebEngineLoadingInfo::HttpStatusCodeDomain;
   ReportDocument(loading.url(), http ? loading.errorCode() : 0);
@@ -246,6 +320,10 @@ void frmBrowser::brwWebBrowser_LoadingChanged(const QWebEngineLoadingInfo& loadi
 void frmBrowser::ReportDocument(const QUrl& address, int httpStatus) {
   channel_.Report({browser_report::kDocumentShown, LocationName(),
                    QString::fromLatin1(address.toEncoded()), QString::number(httpStatus)});
+}
+
+void frmBrowser::timPatience_Timer() {
+  page_.load(noAnswer_);
 }
 
 // A page is loaded once more. Where that fails as well, no process for pages can be made.

@@ -1,13 +1,17 @@
 #ifndef TESSALY_REFERENCE_BROWSER_BROWSER_FORM_H_
 #define TESSALY_REFERENCE_BROWSER_BROWSER_FORM_H_
 
+#include <QKeySequence>
 #include <QStringList>
 #include <QWebEngineProfile>
 #include <QWidget>
 
+#include "reference/browser/page_printing.h"
 #include "reference/browser/reference_page.h"
 #include "reference/browser/request_guard.h"
 
+class QAction;
+class QIcon;
 class QProgressBar;
 class QPushButton;
 class QTimer;
@@ -19,6 +23,7 @@ namespace tessaly {
 
 class CommandChannel;
 class ElidedLabel;
+class FindBar;
 
 // The reference browser's window. It does what it is commanded and reports what becomes of it;
 // which page comes when, and what the caption says, is the program's to decide.
@@ -42,15 +47,24 @@ protected:
 private:
   void BuildPage();
   void BuildBar();
+  // A button of the bar; with keys its action also stands in the page's menu.
+  QToolButton* NewTool(const QString& name, QAction* action, const QIcon& icon,
+                       const QKeySequence& keys = {});
+  void BuildFindBar();
   void BuildButtons();
   void ConnectPage();
   void AddShortcuts();
   void ChooseSize();
+  void Arrange();
 
   void Navigate(const QUrl& address);
   void ShowInFront();
   void ShowPlace();
   void Zoom(double factor);
+  void ShowFindBar(bool visible);
+  void Find(const QString& text, bool backward);
+  // The bar to find a text goes first, then the window.
+  void Escape();
   // The title, or what the browser takes for one.
   [[nodiscard]] QString LocationName() const;
 
@@ -60,22 +74,30 @@ private:
   void brwWebBrowser_NavigateComplete(const QUrl& address);
   void brwWebBrowser_LoadingChanged(const QWebEngineLoadingInfo& loading);
   void brwWebBrowser_ProcessGone();
+  // A page of the web has not begun to arrive.
+  void timPatience_Timer();
   void ReportDocument(const QUrl& address, int httpStatus);
 
   CommandChannel& channel_;
+  QUrl noAnswer_;  // the page that says so
   PageRules rules_;
   RequestGuard guard_;
   // Nothing of what was looked at stays on the disk.
   QWebEngineProfile profile_;
   ReferencePage page_;
+  PagePrinting printing_;
   QWebEngineView* browser_ = nullptr;
   QProgressBar* progress_ = nullptr;
   QToolButton* back_ = nullptr;
   QToolButton* forward_ = nullptr;
+  QToolButton* find_ = nullptr;
+  QToolButton* print_ = nullptr;
+  FindBar* findBar_ = nullptr;
   ElidedLabel* place_ = nullptr;
   QPushButton* pubList_ = nullptr;
   QPushButton* close_ = nullptr;
   QTimer* timer_ = nullptr;
+  QTimer* patience_ = nullptr;
   QUrl lastAddress_;          // of the load that was begun last
   bool refused_ = false;      // the link that was clicked last
   bool processGone_ = false;  // the page's process, and nothing was shown since

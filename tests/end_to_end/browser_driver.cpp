@@ -44,6 +44,18 @@ bool BrowserDriver::IsVisible(const QString& name) {
   return Get(name, u"visible"_s) == u"true"_s;
 }
 
+bool BrowserDriver::HasBox() {
+  return agent_.Ask({u"windows"_s}).contains(u"QMessageBox"_s);
+}
+
+QString BrowserDriver::BoxText() {
+  return agent_.Ask({u"box"_s}).value(1);
+}
+
+void BrowserDriver::AnswerBox(const QString& button) {
+  agent_.Ask({u"answer"_s, button});
+}
+
 void BrowserDriver::SavePicture(const QString& path) {
   agent_.Ask({u"save"_s, u"frmBrowser"_s, path});
 }

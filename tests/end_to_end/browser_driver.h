@@ -31,6 +31,9 @@ public:
   [[nodiscard]] QString Caption();
   [[nodiscard]] QString Address();
   [[nodiscard]] bool IsVisible(const QString& name);
+  [[nodiscard]] bool HasBox();
+  [[nodiscard]] QString BoxText();
+  void AnswerBox(const QString& button);
   void SavePicture(const QString& path);
   // The colour of the page, near its right edge.
   [[nodiscard]] QString PageColour();

@@ -26,12 +26,15 @@ using namespace Qt::StringLiterals;
 inline constexpr auto kGreen = "#00ff00"_L1;
 inline constexpr auto kRed = "#ff0000"_L1;
 
-// A document of one page, red all over.
+// A document of one page, red all over, that reads "Form 23".
 inline QByteArray RedDocument() {
-  const QByteArrayList objects{"<</Type/Catalog/Pages 2 0 R>>",
-                               "<</Type/Pages/Kids[3 0 R]/Count 1>>",
-                               "<</Type/Page/Parent 2 0 R/MediaBox[0 0 2000 2000]/Contents 4 0 R>>",
-                               "<</Length 28>>stream\n1 0 0 rg 0 0 2000 2000 re f \nendstream"};
+  const QByteArray content =
+      "1 0 0 rg 0 0 2000 2000 re f 0 g BT /F 40 Tf 900 999 Td (Form 23) Tj ET";
+  const QByteArrayList objects{
+      "<</Type/Catalog/Pages 2 0 R>>", "<</Type/Pages/Kids[3 0 R]/Count 1>>",
+      "<</Type/Page/Parent 2 0 R/MediaBox[0 0 2000 2000]/Contents 4 0 R/Resources"
+      "<</Font<</F<</Type/Font/Subtype/Type1/BaseFont/Helvetica>>>>>>>>",
+      "<</Length " + QByteArray::number(content.size()) + ">>stream\n" + content + "\nendstream"};
   QByteArray document = "%PDF-1.4\n";
   QByteArray table = "xref\n0 5\n0000000000 65535 f \n";
   for (qsizetype i = 0; i < objects.size(); ++i) {

@@ -142,5 +142,13 @@ TEST_F(BrowserPagesTest, ThePageThatTheWebDoesNotHaveIsReportedAsSuch) {
   EXPECT_EQ(reports.lastAddress, QUrl(server.Address(u"/none.html"_s)));
 }
 
+TEST_F(BrowserPagesTest, AWebThatDoesNotAnswerIsGivenUp) {
+  WritePage(u"noanswer.html"_s, {});
+  server.Ignore(u"/silent.pdf"_s);
+  Open(QUrl(server.Address(u"/silent.pdf"_s)));
+  EXPECT_EQ(reports.titles, QStringList{u"noanswer.html"_s});
+  browser.WaitForPageColour(kGreen);
+}
+
 }  // namespace
 }  // namespace tessaly::test

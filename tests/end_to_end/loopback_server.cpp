@@ -45,6 +45,9 @@ void LoopbackServer::Answer(QTcpSocket* visitor) {
   const QByteArray request = visitor->readAll();
   const QString path = QString::fromLatin1(request.split(' ').value(1));
   requests_.append(path);
+  if (ignored_.contains(path)) {
+    return;
+  }
   visitor->write(
       answers_.value(path, Response("404 Not Found", "text/html", "<title>No such page</title>")));
   visitor->disconnectFromHost();

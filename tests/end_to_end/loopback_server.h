@@ -22,6 +22,10 @@ public:
   // Every other path is not found.
   void Serve(const QString& path, const QByteArray& contentType, const QByteArray& content);
   [[nodiscard]] QString Address(const QString& path) const;
+  // Whoever asks for this path waits for ever.
+  void Ignore(const QString& path) { ignored_.append(path); }
+  // Takes no more visitors.
+  void Close() { server_.close(); }
   // Connections that were made, whatever was asked through them.
   [[nodiscard]] int Connections() const { return connections_; }
   // Paths that were asked for.
@@ -32,6 +36,7 @@ private:
 
   QTcpServer server_;
   QMap<QString, QByteArray> answers_;
+  QStringList ignored_;
   int connections_ = 0;
   QStringList requests_;
 };

@@ -59,8 +59,9 @@ protected:
 };
 
 TEST_F(PagesTest, ThePagesThatTheProgramOpensAreThere) {
-  for (const QString& page : {u"pubmenu.html"_s, u"ipubmenu.html"_s, u"notfound.html"_s,
-                              u"kovrins/kovrin.html"_s, u"glossary/glossary.html"_s}) {
+  for (const QString& page :
+       {u"pubmenu.html"_s, u"ipubmenu.html"_s, u"notfound.html"_s, u"noanswer.html"_s,
+        u"kovrins/kovrin.html"_s, u"glossary/glossary.html"_s}) {
     EXPECT_TRUE(pages.contains(page)) << page.toStdString();
   }
   EXPECT_GE(PagesIn(u"pubs"_s).size(), 50);

@@ -81,11 +81,11 @@ QLayout* frmOptions::BuildButtons() {
     connect(button, &QPushButton::clicked, this, clicked);
     return button;
   };
-  auto* save = newButton(u"cmdSaveOptions"_s, u"Save"_s, &frmOptions::cmdSaveOptions_Click);
-  save->setDefault(true);
   auto* row = new QHBoxLayout;
   row->addWidget(newButton(u"cmdResetOptions"_s, u"Default"_s, &frmOptions::cmdResetOptions_Click));
   row->addStretch();
+  auto* save = newButton(u"cmdSaveOptions"_s, u"Save"_s, &frmOptions::cmdSaveOptions_Click);
+  save->setDefault(true);
   row->addWidget(save);
   row->addWidget(newButton(u"cmdCancel"_s, u"Cancel"_s, &frmOptions::cmdCancel_Click));
   return row;

@@ -1,5 +1,6 @@
 #include "app/printing_form.h"
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include "app/progress_form.h"
@@ -18,7 +19,9 @@ void PrintingForm::Print(const QString& text, QWidget& owner, const std::functio
   const QScopedValueRollback<bool> busy(printing_, true);
   form_ = std::make_unique<ProgressForm>(u"frmPrinting"_s, u"lblPrint"_s, text, &owner);
   form_->ShowAndRepaint();
+  auto failed = qScopeGuard([this] { form_->Rest(); });
   print();
+  failed.dismiss();
   form_.reset();
 }
 

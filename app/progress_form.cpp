@@ -13,7 +13,7 @@ namespace tessaly {
 
 ProgressForm::ProgressForm(const QString& name, const QString& labelName, const QString& text,
                            QWidget* parent)
-    : QDialog(parent) {
+    : QDialog(parent), bar_(new QProgressBar) {
   setObjectName(name);
   setWindowTitle(kApplicationTitle);
   // The keys stay with the window that the user works in.
@@ -22,15 +22,14 @@ ProgressForm::ProgressForm(const QString& name, const QString& labelName, const 
   label->setObjectName(labelName);
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Qt::AlignCenter);
-  auto* bar = new QProgressBar;
-  bar->setRange(0, 0);
-  bar->setTextVisible(false);
-  bar->setAccessibleName(text);
+  bar_->setRange(0, 0);
+  bar_->setTextVisible(false);
+  bar_->setAccessibleName(text);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(28, 20, 28, 20);
   column->setSpacing(14);
   column->addWidget(label);
-  column->addWidget(bar);
+  column->addWidget(bar_);
   column->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -38,6 +37,10 @@ void ProgressForm::ShowAndRepaint() {
   show();
   // A click while the work is under way must not start another command.
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void ProgressForm::Rest() {
+  bar_->hide();
 }
 
 }  // namespace tessaly

@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-class QLabel;
+class QProgressBar;
 
 namespace tessaly {
 
@@ -18,6 +18,11 @@ public:
 
   // Shows the form and returns when it is painted; painting goes on at each further call.
   void ShowAndRepaint();
+  // The line stays, but nothing moves any more: the work has ended before its time.
+  void Rest();
+
+private:
+  QProgressBar* bar_;
 };
 
 }  // namespace tessaly

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "app/error_boundary.h"
@@ -60,7 +61,6 @@ QScrollArea* NewScrollArea(QLabel* content) {
   area->setWidgetResizable(true);
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area->setFixedSize(kTipSize);
-  area->setFocusPolicy(Qt::NoFocus);
   return area;
 }
 
@@ -99,7 +99,8 @@ QLayout* frmTip::BuildTip() {
   auto* right = new QVBoxLayout;
   right->setSpacing(kSpacing);
   right->addWidget(NewHeading());
-  right->addWidget(NewScrollArea(tipText_), 1);
+  area_ = NewScrollArea(tipText_);
+  right->addWidget(area_, 1);
   auto* row = new QHBoxLayout;
   row->setSpacing(kMargin);
   row->addWidget(picture_);
@@ -140,6 +141,11 @@ void frmTip::LoadTipPicture(TipOccasion occasion) {
 
 void frmTip::ShowTip() {
   tipText_->setText(tips_.Text());
+  // The keyboard stops at a tip only where there is something to scroll.
+  const QSize room = area_->maximumViewportSize();
+  const bool scrolls = tipText_->heightForWidth(room.width()) > room.height();
+  area_->setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::NoFocus);
+  area_->verticalScrollBar()->setValue(0);
 }
 
 void frmTip::chkLoadTipsAtStartup_Click() {

@@ -8,6 +8,7 @@
 class QCheckBox;
 class QLabel;
 class QLayout;
+class QScrollArea;
 
 namespace tessaly {
 
@@ -42,6 +43,7 @@ private:
   ErrorBoundary& errors_;
   QLabel* picture_ = nullptr;
   QLabel* tipText_ = nullptr;
+  QScrollArea* area_ = nullptr;
   QCheckBox* loadAtStartup_ = nullptr;
 };
 

@@ -166,8 +166,8 @@ void frmBrowser::AddShortcuts() {
     connect(new QShortcut(keys, this), &QShortcut::activated, this, handler);
   };
   add(Qt::Key_Escape, [this] { Escape(); });
-  add(QKeySequence::FindNext, [this] { findBar_->FindNext(); });
-  add(QKeySequence::FindPrevious, [this] { findBar_->FindPrevious(); });
+  add(QKeySequence::FindNext, [this] { FindAgain(&FindBar::FindNext); });
+  add(QKeySequence::FindPrevious, [this] { FindAgain(&FindBar::FindPrevious); });
   add(QKeySequence::Back, [this] { browser_->back(); });
   add(QKeySequence::Forward, [this] { browser_->forward(); });
   add(QKeySequence::Refresh, [this] { browser_->reload(); });
@@ -268,6 +268,13 @@ void frmBrowser::Find(const QString& text, bool backward) {
   page_.findText(text, flags);
 }
 
+void frmBrowser::FindAgain(void (FindBar::*ask)()) {
+  if (findBar_->isHidden()) {
+    ShowFindBar(true);
+  }
+  (findBar_->*ask)();
+}
+
 void frmBrowser::Escape() {
   findBar_->isVisible() ? ShowFindBar(false) : cmdClose_Click();
 }
@@ -303,6 +310,7 @@ void frmBrowser::brwWebBrowser_LoadingChanged(const QWebEngineLoadingInfo& loadi
   progress_->setVisible(page_.isLoading());
   if (loading.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
     lastAddress_ = loading.url();
+    findBar_->ForgetPlaces();
     lastAddress_.isLocalFile() ? patience_->stop() : patience_->start();
     ShowPlace();
     return;
@@ -315,6 +323,9 @@ void frmBrowser::brwWebBrowser_LoadingChanged(const QWebEngineLoadingInfo& loadi
   processGone_ = false;
   const bool http = loading.errorDomain() == QWebEngineLoadingInfo::HttpStatusCodeDomain;
   ReportDocument(loading.url(), http ? loading.errorCode() : 0);
+  if (!findBar_->isHidden()) {
+    findBar_->FindNext();
+  }
 }
 
 void frmBrowser::ReportDocument(const QUrl& address, int httpStatus) {

@@ -63,6 +63,8 @@ private:
   void Zoom(double factor);
   void ShowFindBar(bool visible);
   void Find(const QString& text, bool backward);
+  // Shows the bar first where it is hidden.
+  void FindAgain(void (FindBar::*ask)());
   // The bar to find a text goes first, then the window.
   void Escape();
   // The title, or what the browser takes for one.

@@ -68,9 +68,13 @@ void FindBar::FindPrevious() {
   Q_EMIT Asked(text_->text(), true);
 }
 
+void FindBar::ForgetPlaces() {
+  places_->clear();
+}
+
 void FindBar::ShowPlaces(int active, int count) {
   if (text_->text().isEmpty()) {
-    places_->clear();
+    ForgetPlaces();
   } else if (count == 0) {
     places_->setText(u"Not found"_s);
   } else {
@@ -92,7 +96,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
 
 void FindBar::txtFind_Change(const QString& text) {
   if (text.isEmpty()) {
-    places_->clear();
+    ForgetPlaces();
   }
   Q_EMIT Asked(text, false);
 }

@@ -21,6 +21,8 @@ public:
   // Asks for the text's next place, or for the one before.
   void FindNext();
   void FindPrevious();
+  // Another page is on its way: what was found belongs to the one before.
+  void ForgetPlaces();
   // Of `count` places the one numbered `active`, from 1, is in view.
   void ShowPlaces(int active, int count);
 

@@ -38,6 +38,15 @@ protected:
   }
 };
 
+TEST_F(GeneralSettingsTest, TheTabKeyFollowsTheEye) {
+  Open();
+  Find<QWidget>(u"chkMessages"_s)->setFocus();
+  for (const QString& next : {u"cmdResetOptions"_s, u"cmdSaveOptions"_s, u"cmdCancel"_s}) {
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(Find<QWidget>(next)->hasFocus()) << next.toStdString();
+  }
+}
+
 TEST_F(GeneralSettingsTest, HasACheckBoxForEverySettingAndThreeButtons) {
   Open();
   EXPECT_EQ(form->windowTitle(), u"General Settings"_s);

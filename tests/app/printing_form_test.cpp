@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QProgressBar>
 #include <QWidget>
 
 #include "store/runtime_error.h"
@@ -40,6 +41,7 @@ TEST_F(PrintingFormTest, ItStaysWhenPrintingFailsUntilSomethingIsPrinted) {
       printing.Print(u"text"_s, window, [] { throw RuntimeError(ErrorNumber::Printer); }),
       ErrorNumber::Printer);
   EXPECT_TRUE(IsShown());
+  EXPECT_FALSE(window.findChild<QProgressBar*>()->isVisible());
   printing.Print(u"text"_s, window, [] {});
   EXPECT_FALSE(IsShown());
 }

@@ -58,6 +58,31 @@ TEST_F(BrowserToolsTest, ATextIsFoundWhileItIsTypedAndFromPlaceToPlace) {
   WaitForFound(u"Not found"_s);
 }
 
+TEST_F(BrowserToolsTest, TheTextIsLookedForOnTheNextPageToo) {
+  WritePage(u"next.html"_s, {}, "<p>The rate.</p>");
+  OpenPageOfThreeRates();
+  browser.Press(u"Ctrl+F"_s);
+  browser.Press(u"R, A, T, E"_s);
+  WaitForFound(u"1 of 2"_s);
+  Navigate(AddressOf(u"next.html"_s));
+  WaitForFound(u"1 of 1"_s);
+}
+
+TEST_F(BrowserToolsTest, TheKeyToFindAgainBringsTheBarBack) {
+  OpenPageOfThreeRates();
+  browser.Press(u"F3"_s);
+  EXPECT_TRUE(browser.IsVisible(u"fraFind"_s));
+  browser.Press(u"R, A, T, E"_s);
+  WaitForFound(u"1 of 2"_s);
+  browser.Press(u"Esc"_s);
+  EXPECT_FALSE(browser.IsVisible(u"fraFind"_s));
+  browser.Press(u"F3"_s);
+  EXPECT_TRUE(browser.IsVisible(u"fraFind"_s));
+  EXPECT_EQ(browser.Get(u"txtFind"_s, u"text"_s), u"rate"_s);
+  // It goes on from the place where it was left.
+  WaitForFound(u"2 of 2"_s);
+}
+
 TEST_F(BrowserToolsTest, EscapeClosesTheFindBarFirstAndThenTheWindow) {
   OpenPageOfThreeRates();
   const QString wholePage = browser.Get(u"brwWebBrowser"_s, u"geometry"_s);

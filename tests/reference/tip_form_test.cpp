@@ -120,6 +120,22 @@ TEST_F(TipFormTest, ALongTipCanBeScrolled) {
   ShowAnd(TipOccasion::Menu, [this] {
     EXPECT_LT(form->height(), 400);
     EXPECT_GT(Find<QLabel>(u"lblTipText"_s)->height(), form->height());
+    // Past the check box and Next Tip.
+    for (int tabs = 0; tabs < 3; ++tabs) {
+      Press(Qt::Key_Tab);
+    }
+    const int before = Find<QLabel>(u"lblTipText"_s)->y();
+    QTest::keyClick(form->focusWidget(), Qt::Key_PageDown);
+    EXPECT_LT(Find<QLabel>(u"lblTipText"_s)->y(), before);
+  });
+}
+
+TEST_F(TipFormTest, TheKeyboardPassesByATipThatIsShownWhole) {
+  ShowAnd(TipOccasion::Menu, [this] {
+    for (const QString& next : {u"chkLoadTipsAtStartup"_s, u"cmdNextTip"_s, u"cmdOK"_s}) {
+      Press(Qt::Key_Tab);
+      EXPECT_TRUE(Find<QWidget>(next)->hasFocus()) << next.toStdString();
+    }
   });
 }
 

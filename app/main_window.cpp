@@ -4,11 +4,16 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 #include "app/picture.h"
 #include "app/program.h"
 #include "app/twips.h"
+#include "app/window_reach.h"
 #include "store/settings_store.h"
 
 using namespace Qt::StringLiterals;
@@ -43,15 +48,27 @@ void frmMain::Attach(Program& program) {
 
 void frmMain::Form_Load() {
   const WindowPlacement placement = program_->Settings().LoadWindowPlacement();
+  PlaceWindow(placement);
   if (placement.Maximized) {
-    const WindowPlacement normal;
-    resize(ToPixels(normal.MainWidth), ToPixels(normal.MainHeight));
     setWindowState(windowState() | Qt::WindowMaximized);
-  } else {
-    move(ToPixels(placement.MainLeft), ToPixels(placement.MainTop));
-    resize(ToPixels(placement.MainWidth), ToPixels(placement.MainHeight));
   }
   SetPanelText(Panel::Timer, u"Timer Disabled"_s);
+}
+
+// The placement may come from a screen that is no longer there.
+void frmMain::PlaceWindow(const WindowPlacement& placement) {
+  move(ToPixels(placement.MainLeft), ToPixels(placement.MainTop));
+  resize(ToPixels(placement.MainWidth), ToPixels(placement.MainHeight));
+  QList<QRect> areas;
+  for (const QScreen* available : QGuiApplication::screens()) {
+    areas.append(available->availableGeometry());
+  }
+  const QRect stored(pos(), size());
+  const QRect reachable = WithinReach(stored, areas);
+  if (reachable != stored) {
+    resize(reachable.size());
+    move(reachable.topLeft());
+  }
 }
 
 float frmMain::Measure(WindowMeasure measure) const {
@@ -102,8 +119,43 @@ void frmMain::closeEvent(QCloseEvent* event) {
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
   if (watched == client_ && event->type() == QEvent::Resize) {
     FitPanes();
+  } else if (watched == hintLink_ && event->type() == QEvent::FocusOut) {
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    // A selection stays while its context menu or another window is in front.
+    if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
+      hintLink_->setCursorPosition(0);
+    }
   }
   return QMainWindow::eventFilter(watched, event);
+}
+
+bool frmMain::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride &&
+      IsKeyOfAnswerA(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
+  }
+  return QMainWindow::event(event);
+}
+
+void frmMain::keyPressEvent(QKeyEvent* event) {
+  if (!IsKeyOfAnswerA(*event)) {
+    QMainWindow::keyPressEvent(event);
+    return;
+  }
+  if (!event->isAutoRepeat()) {
+    answerButtons_[0]->click();
+  }
+}
+
+// While the key is held down it stays the button's, which may be gone by then.
+bool frmMain::IsKeyOfAnswerA(const QKeyEvent& event) const {
+  if (event.key() != Qt::Key_A || event.modifiers() != Qt::AltModifier) {
+    return false;
+  }
+  const QPushButton& button = *answerButtons_[0];
+  const bool isLetterA = QKeySequence::mnemonic(button.text()) == QKeySequence(Qt::ALT | Qt::Key_A);
+  return event.isAutoRepeat() || (button.isVisible() && button.isEnabled() && isLetterA);
 }
 
 void frmMain::SaveWindowPlacement() {

@@ -63,8 +63,12 @@ public:
 
 protected:
   void closeEvent(QCloseEvent* event) override;
+  // Claims the key of answer A before the menu of the same letter gets it.
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
-  // The client area reports its resizes here, because that is what the layout counts from.
+  // The client area reports its resizes here, because that is what the layout counts from, and the
+  // research reference that it loses the focus.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -113,7 +117,10 @@ private:
   void Toolbar1_ButtonClick(const QString& key);
 
   void RunCommand(const CommandHandler& handler);
+  void PlaceWindow(const WindowPlacement& placement);
   void SaveWindowPlacement();
+  void ShowHintLink(const QString& hint);
+  [[nodiscard]] bool IsKeyOfAnswerA(const QKeyEvent& event) const;
   [[nodiscard]] QAction* ActionOf(QLatin1StringView name) const;
   [[nodiscard]] QWidget* WidgetOf(Box box) const;
   [[nodiscard]] QSize ClientTwips() const;

@@ -95,6 +95,7 @@ void frmMain::BuildPanes() {
   hintLink_->setObjectName(u"txtHintLink"_s);
   hintLink_->setAccessibleName(u"Research reference"_s);
   hintLink_->setReadOnly(true);
+  hintLink_->installEventFilter(this);
   const std::array hiddenNames{u"txtQNo"_s, u"txtAnswerNumber"_s, u"txtAnswered"_s,
                                u"txtPassFail"_s};
   for (std::size_t i = 0; i < hiddenBoxes_.size(); ++i) {

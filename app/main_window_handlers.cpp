@@ -7,8 +7,10 @@
 #include "app/general_settings.h"
 #include "app/main_window.h"
 #include "app/program.h"
+#include "app/welcome_pane.h"
 #include "backup/backup_form.h"
 #include "catalogue/study_mode_wizard.h"
+#include "catalogue/study_selection.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/message_boxes.h"
@@ -103,9 +105,14 @@ void frmMain::mnuFileExit_Click() {
   close();
 }
 
+// After its Default the status bar still shows the earlier selection, but the panes' place says
+// what the next session asks.
 void frmMain::mnuViewExamChoices_Click() {
   frmStudyMode dialog(*program_, errors_, this);
-  dialog.exec();
+  if (dialog.exec() == QDialog::Accepted) {
+    const ProgramState& state = program_->State();
+    welcome_->SetSelection(SelectionText(state.Selection, state.QuestionSubject));
+  }
 }
 
 void frmMain::mnuViewOptions_Click() {
@@ -181,6 +188,7 @@ void frmMain::mnuUpdates_Click() {
   notice.show();
   machine.clock.Wait(kUpdateNoticeMilliseconds);
   if (machine.desktop.StartProgram(program_->State().Paths.ProgramFolder + u'/' + kUpdateProgram)) {
+    notice.hide();
     mnuFileExit_Click();
     return;
   }

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTextDocument>
 #include <QTimer>
 #include <QToolBar>
 #include <cstddef>
@@ -15,6 +16,8 @@
 #include "app/study_text_box.h"
 #include "app/twips.h"
 #include "app/welcome_pane.h"
+#include "reference/hint_form.h"
+#include "reference/research_hint.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +30,19 @@ void frmMain::SetBoxText(Box box, const QString& text) {
   } else if (auto* line = qobject_cast<QLineEdit*>(widget)) {
     line->setText(text);
     line->setCursorPosition(0);
+  }
+  if (box == Box::txtHintLink) {
+    ShowHintLink(text);
+  }
+}
+
+// The whole hint wherever it is shown: the box cuts most, and the dialog would otherwise tell of
+// one question and open the page of another.
+void frmMain::ShowHintLink(const QString& hint) {
+  hintLink_->setToolTip(
+      Qt::mightBeRichText(hint) ? Qt::convertFromPlainText(hint, Qt::WhiteSpaceNormal) : hint);
+  if (!hint_.isNull()) {
+    hint_->SetHint(HintToShow(*this));
   }
 }
 
@@ -99,7 +115,7 @@ void frmMain::FitPanes() {
   toolbar_->setGeometry(coolBar_->rect());
   rightWrong_->setGeometry(ToPixels(layout.rightWrong));
   question_->setGeometry(ToPixels(layout.question));
-  welcome_->setGeometry(ToPixels(layout.question));
+  welcome_->setGeometry(ToPixels(layout.welcome));
   if (state.Answered) {
     answer_->setGeometry(ToPixels(layout.answer));
   }

@@ -46,6 +46,7 @@ PaneLayout ArrangePanes(std::int32_t scaleWidth, std::int32_t scaleHeight,
   layout.rightWrong = {kPaneLeft, kFeedbackTop, layout.paneWidth, kFeedbackHeight};
   layout.question = {kPaneLeft, kPaneTop, layout.paneWidth,
                      answered ? layout.paneHeight : 2 * layout.paneHeight};
+  layout.welcome = {kPaneLeft, kPaneTop, layout.paneWidth, 2 * layout.paneHeight};
   layout.answer = {kPaneLeft, layout.paneHeight + kPaneTop, scaleWidth - kWidthOfTheRest,
                    layout.paneHeight};
   const std::int32_t buttonsTop = scaleHeight - kButtonsAboveBottom;

@@ -21,7 +21,8 @@ struct PaneLayout {
   std::int32_t coolBarHeight;
   TwipsRect rightWrong;
   TwipsRect question;
-  TwipsRect answer;  // used once the question has been answered
+  TwipsRect welcome;  // in place of both panes while no session runs
+  TwipsRect answer;   // used once the question has been answered
   TwipsRect answerButtons[4];
   TwipsRect skip;
   TwipsRect hintLink;

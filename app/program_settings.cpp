@@ -5,6 +5,7 @@
 #include "catalogue/study_selector.h"
 #include "session/study_timer.h"
 #include "store/conversions.h"
+#include "store/runtime_error.h"
 #include "store/settings_store.h"
 
 using namespace Qt::StringLiterals;
@@ -53,12 +54,16 @@ WindowPlacement ProgramSettings::LoadWindowPlacement() const {
   WindowPlacement placement;
   placement.Maximized =
       settings_.Read(settings_section::kSettings, u"Maximized"_s, u"0"_s) == u"1"_s;
-  if (placement.Maximized) {
-    return placement;
-  }
-  const auto read = [this](const QString& key, float& value) {
-    value = ToSingle(settings_.Read(settings_section::kSettings, key, SingleText(value)),
-                     Address(settings_section::kSettings, key));
+  const auto read = [&](const QString& key, float& value) {
+    try {
+      value = ToSingle(settings_.Read(settings_section::kSettings, key, SingleText(value)),
+                       Address(settings_section::kSettings, key));
+    } catch (const RuntimeError&) {
+      // The screen's size will do until the window leaves that state.
+      if (!placement.Maximized) {
+        throw;
+      }
+    }
   };
   read(u"MainLeft"_s, placement.MainLeft);
   read(u"MainTop"_s, placement.MainTop);

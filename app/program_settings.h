@@ -33,7 +33,8 @@ public:
   void SaveOptions();
 
   // The placement stored last, the defaults where nothing is stored. When Maximized is set the
-  // other fields are not read.
+  // other fields are the last normal placement, and a text there that is no number counts as
+  // nothing stored.
   [[nodiscard]] WindowPlacement LoadWindowPlacement() const;
   // A maximized placement writes only that; the last normal one stays stored.
   void SaveWindowPlacement(const WindowPlacement& placement);

@@ -234,8 +234,9 @@ void frmStudyMode::cmdNext_Click() {
 }
 
 void frmStudyMode::cmdDefaultMode_Click() {
-  errors_.Run(u"resetting the study mode"_s, [this] { pages_.Default(); });
-  reject();
+  bool wasReset = false;
+  errors_.Run(u"resetting the study mode"_s, [&] { wasReset = pages_.Default(); });
+  done(wasReset ? QDialog::Accepted : QDialog::Rejected);
 }
 
 }  // namespace tessaly

@@ -103,12 +103,14 @@ void WizardPages::Back() {
   page_ = std::max(page_ - 1, 1);
 }
 
-void WizardPages::Default() {
-  if (boxes_.AskYesNo(u"Reset Study Mode to default values?"_s, u"Tessaly Study Mode"_s)) {
-    selector_.ResetStudySelection();
-    // The totals in memory must belong to the mode, which may have changed.
-    selector_.LoadSubjectTotals();
+bool WizardPages::Default() {
+  if (!boxes_.AskYesNo(u"Reset Study Mode to default values?"_s, u"Tessaly Study Mode"_s)) {
+    return false;
   }
+  selector_.ResetStudySelection();
+  // The totals in memory must belong to the mode, which may have changed.
+  selector_.LoadSubjectTotals();
+  return true;
 }
 
 void WizardPages::Take(const WizardChoice& choice) {

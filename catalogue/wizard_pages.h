@@ -60,8 +60,9 @@ public:
   [[nodiscard]] bool Next(const WizardChoice& choice);
   // What was chosen on the page that is left is dropped.
   void Back();
-  // Asks whether to reset the study selection, and does it on Yes. The status panels stay.
-  void Default();
+  // Asks whether to reset the study selection, and does it on Yes; true then. The status panels
+  // stay.
+  [[nodiscard]] bool Default();
 
 private:
   void Take(const WizardChoice& choice);

@@ -21,6 +21,8 @@ namespace {
 
 // Wide enough for the book's pictures.
 constexpr QSize kFirstSize(1140, 740);
+// The window's frame needs room as well.
+constexpr double kPartOfScreen = 0.9;
 constexpr int kFindersWidth = 290;
 constexpr int kPageRole = Qt::UserRole;
 
@@ -76,7 +78,7 @@ frmHelp::frmHelp(const QString& path, QWidget* parent) : QDialog(parent), book_(
   halves->setChildrenCollapsible(false);
   auto* row = new QHBoxLayout(this);
   row->addWidget(halves);
-  resize(kFirstSize.boundedTo(screen()->availableSize()));
+  resize(kFirstSize.boundedTo(screen()->availableSize() * kPartOfScreen));
   ShowPage(book_.DefaultPage());
   contents_->setFocus();
 }

@@ -18,14 +18,18 @@ void LoadResearchHint(const ResearchReference& reference, ProgramState& state,
   }
 }
 
-QString BeginResearch(MainWindowView& view) {
-  view.EnableToolButton(ToolButton::Hint, false);
-  view.EnableCommand(Command::mnuFileResearch, false);
+QString HintToShow(const MainWindowView& view) {
   const QString hint = view.BoxText(Box::txtHintLink);
   // Worded differently from the text for a question without a hint.
   return hint.isEmpty() ? u"The research link for this question is not available in this database "
                           u"release"_s
                         : hint;
+}
+
+QString BeginResearch(MainWindowView& view) {
+  view.EnableToolButton(ToolButton::Hint, false);
+  view.EnableCommand(Command::mnuFileResearch, false);
+  return HintToShow(view);
 }
 
 void EndResearch(MainWindowView& view, bool sessionRuns) {

@@ -19,6 +19,8 @@ struct ResearchReference {
 void LoadResearchHint(const ResearchReference& reference, ProgramState& state,
                       MainWindowView& view);
 
+// What the dialog is to show: the hint on screen, or that there is none.
+[[nodiscard]] QString HintToShow(const MainWindowView& view);
 // The Research command: takes itself out of menu and toolbar and returns what the dialog is to
 // show.
 [[nodiscard]] QString BeginResearch(MainWindowView& view);

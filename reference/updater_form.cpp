@@ -17,6 +17,7 @@ constexpr int kTextWidth = 360;
 frmLoadUpdater::frmLoadUpdater(QWidget* parent) : QDialog(parent) {
   setObjectName(u"frmLoadUpdater"_s);
   setWindowTitle(u"Updater"_s);
+  setWindowModality(Qt::ApplicationModal);
   auto* text = new QLabel(
       u"Closing Tessaly to check for and download program updates.  You will need to manually "
       "restart Tessaly after the update is complete."_s);

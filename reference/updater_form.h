@@ -14,13 +14,15 @@ inline constexpr QLatin1StringView kNoUpdateProgram{
 // Long enough to read the form.
 inline constexpr int kUpdateNoticeMilliseconds = 3000;
 
-// Says that Tessaly is about to close so that it can be updated. Modeless; goes away when it is
-// destroyed.
+// Says that Tessaly is about to close so that it can be updated. As long as it is shown nothing
+// else can be used; it cannot be closed and goes away when it is hidden or destroyed.
 class frmLoadUpdater : public QDialog {
   Q_OBJECT
 
 public:
   explicit frmLoadUpdater(QWidget* parent);
+
+  void reject() override {}
 };
 
 }  // namespace tessaly

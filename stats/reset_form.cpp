@@ -2,12 +2,13 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDialogButtonBox>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopeGuard>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 
 #include "app/error_boundary.h"
@@ -51,7 +52,7 @@ std::optional<ResetScope> CheckedScope(const Buttons& buttons) {
 }  // namespace
 
 frmResetChoices::frmResetChoices(Program& program, ErrorBoundary& errors, QDialog& statistics)
-    : QDialog(&statistics),
+    : QDialog(statistics.isVisible() ? &statistics : statistics.parentWidget()),
       errors_(errors),
       statistics_(statistics),
       bySubject_(program.State().Selection.Method == kBySubject),
@@ -64,14 +65,6 @@ frmResetChoices::frmResetChoices(Program& program, ErrorBoundary& errors, QDialo
   setWindowTitle(u"Reset Statistics"_s);
   all_->setObjectName(u"chkResetAll"_s);
   allDifficult_->setObjectName(u"chkAllDifficult"_s);
-  auto* buttons = new QDialogButtonBox;
-  QPushButton* reset = buttons->addButton(u"Reset"_s, QDialogButtonBox::ApplyRole);
-  reset->setObjectName(u"cmdReset"_s);
-  // Enter deletes nothing.
-  reset->setAutoDefault(false);
-  QPushButton* cancel = buttons->addButton(u"Cancel"_s, QDialogButtonBox::RejectRole);
-  cancel->setObjectName(u"cmdCancel"_s);
-  cancel->setDefault(true);
   auto* groups = new QHBoxLayout;
   groups->addWidget(BuildGroup(u"Frame3"_s, u"Reset Tutorial Mode Statistics"_s, u'T', tutorial_));
   groups->addWidget(
@@ -81,10 +74,8 @@ frmResetChoices::frmResetChoices(Program& program, ErrorBoundary& errors, QDialo
   column->addWidget(all_);
   column->addWidget(allDifficult_);
   column->addLayout(groups);
-  column->addWidget(buttons);
+  BuildButtons(column);
   column->setSizeConstraint(QLayout::SetFixedSize);
-  connect(reset, &QPushButton::clicked, this, [this] { cmdReset_Click(); });
-  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   connect(allDifficult_, &QCheckBox::clicked, this, &frmResetChoices::chkAllDifficult_Click);
 }
 
@@ -102,6 +93,23 @@ QGroupBox* frmResetChoices::BuildGroup(const QString& name, const QString& capti
     column->addWidget(buttons[i]);
   }
   return group;
+}
+
+void frmResetChoices::BuildButtons(QVBoxLayout* column) {
+  auto* reset = new QPushButton(u"Reset"_s);
+  reset->setObjectName(u"cmdReset"_s);
+  // Enter deletes nothing.
+  reset->setAutoDefault(false);
+  connect(reset, &QPushButton::clicked, this, [this] { cmdReset_Click(); });
+  auto* cancel = new QPushButton(u"Cancel"_s);
+  cancel->setObjectName(u"cmdCancel"_s);
+  cancel->setDefault(true);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(reset);
+  row->addWidget(cancel);
+  column->addLayout(row);
 }
 
 ResetChoices frmResetChoices::Choices() const {
@@ -140,7 +148,14 @@ void frmResetChoices::ShowProgress() {
 }
 
 void frmResetChoices::ShowStatistics() {
+  if (statistics_.isVisible()) {
+    return;
+  }
   statistics_.show();
+  // The form came up over this dialog, which blocks it and so must stay in front of it.
+  windowHandle()->setTransientParent(statistics_.windowHandle());
+  raise();
+  activateWindow();
 }
 
 void frmResetChoices::UnloadForms() {

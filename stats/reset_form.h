@@ -10,6 +10,7 @@
 class QCheckBox;
 class QGroupBox;
 class QRadioButton;
+class QVBoxLayout;
 
 namespace tessaly {
 
@@ -18,7 +19,7 @@ class Program;
 class ProgressForm;
 
 // The reset dialog. Belongs to a statistics form, shown or hidden, which it brings back on a No and
-// closes when the reset is done.
+// closes when the reset is done. Stands over that form, and while it is hidden over its parent.
 class frmResetChoices : public QDialog, public ResetView {
   Q_OBJECT
 
@@ -37,6 +38,7 @@ private:
 
   [[nodiscard]] QGroupBox* BuildGroup(const QString& name, const QString& caption, QChar letter,
                                       ScopeButtons& buttons);
+  void BuildButtons(QVBoxLayout* column);
   [[nodiscard]] ResetChoices Choices() const;
   void cmdReset_Click();
   void chkAllDifficult_Click(bool checked);

@@ -2,9 +2,12 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -22,6 +25,53 @@ namespace {
 
 constexpr int kVisibleRows = 24;
 constexpr int kChartWidth = 380;
+constexpr QSize kSmallestList(200, 100);
+constexpr int kSmallestChartWidth = 240;
+// The window's frame and what a desktop shows beside it need the rest.
+constexpr double kPartOfScreen = 0.9;
+
+// Shows every column and some two dozen rows where there is room, and scrolls where there is none.
+class ReportList : public QListWidget {
+public:
+  using QListWidget::QListWidget;
+
+  [[nodiscard]] QSize sizeHint() const override {
+    const QFontMetrics metrics = fontMetrics();
+    // The longest row, and one column for the splitter's handle, which takes its width from the
+    // list.
+    const int columns = kSubjectNameColumns + 31;
+    const int margin = frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    return {columns * metrics.horizontalAdvance(u'0') + 2 * margin +
+                verticalScrollBar()->sizeHint().width(),
+            kVisibleRows * metrics.height()};
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override { return kSmallestList; }
+
+protected:
+  // A list of one column has no other use for these two keys.
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+      horizontalScrollBar()->triggerAction(event->key() == Qt::Key_Left
+                                               ? QAbstractSlider::SliderSingleStepSub
+                                               : QAbstractSlider::SliderSingleStepAdd);
+      return;
+    }
+    QListWidget::keyPressEvent(event);
+  }
+};
+
+// A page's own wish would make the charts as wide as their longest name.
+class ChartTabs : public QTabWidget {
+public:
+  using QTabWidget::QTabWidget;
+
+  [[nodiscard]] QSize sizeHint() const override {
+    return {kChartWidth, QTabWidget::sizeHint().height()};
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    return {kSmallestChartWidth, QTabWidget::minimumSizeHint().height()};
+  }
+};
 
 }  // namespace
 
@@ -30,21 +80,27 @@ frmStats::frmStats(Program& program, ErrorBoundary& errors, QWidget* parent)
       program_(program),
       errors_(errors),
       report_(BuildStatisticsReport(program.State(), program.Bank())),
-      list_(new QListWidget) {
+      list_(new ReportList) {
   program.State().Subjects.SubjectIndex = 0;
   setObjectName(u"frmStats"_s);
   setWindowTitle(u"Statistics"_s);
   auto* frame = new QGroupBox(report_.Caption);
   frame->setObjectName(u"Frame1"_s);
   auto* content = new QHBoxLayout(frame);
+  auto* halves = new QSplitter;
+  halves->setChildrenCollapsible(false);
+  content->addWidget(halves);
   BuildReport();
-  content->addWidget(list_, 1);
+  halves->addWidget(list_);
   if (program.State().ProgramOptions.GraphicStats == 1) {
-    BuildCharts(content);
+    halves->addWidget(BuildCharts());
   }
+  halves->setStretchFactor(0, 1);
   auto* column = new QVBoxLayout(this);
   column->addWidget(frame, 1);
   BuildButtons(column);
+  const QSize room = (parent != nullptr ? parent : this)->screen()->availableSize() * kPartOfScreen;
+  resize(sizeHint().boundedTo(room));
 }
 
 void frmStats::BuildReport() {
@@ -53,24 +109,20 @@ void frmStats::BuildReport() {
   QFont fixedPitch(u"Courier New"_s);
   fixedPitch.setStyleHint(QFont::TypeWriter);
   list_->setFont(fixedPitch);
-  list_->setUniformItemSizes(true);
+  list_->setTextElideMode(Qt::ElideNone);
+  list_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   list_->addItems(report_.Lines);
-  const QFontMetrics metrics = list_->fontMetrics();
-  const int columns = kSubjectNameColumns + 30;
-  list_->setMinimumSize(
-      columns * metrics.horizontalAdvance(u'0') + list_->verticalScrollBar()->sizeHint().width(),
-      kVisibleRows * metrics.height());
 }
 
-void frmStats::BuildCharts(QLayout* beside) {
-  auto* charts = new QTabWidget;
+QWidget* frmStats::BuildCharts() {
+  auto* charts = new ChartTabs;
   charts->setObjectName(u"tabCharts"_s);
-  charts->setMinimumWidth(kChartWidth);
-  charts->addTab(new ScoreChart(u"chtSections"_s, u"Exam part"_s, report_.Sections, charts),
+  charts->addTab(new ScoreChartPage(u"chtSections"_s, u"Exam part"_s, report_.Sections, {}),
                  u"By &Exam Section"_s);
-  charts->addTab(new ScoreChart(u"chtSubjects"_s, u"Subject"_s, report_.Subjects, charts),
+  charts->addTab(new ScoreChartPage(u"chtSubjects"_s, u"Subject"_s, report_.Subjects,
+                                    u"No subject has been asked yet."_s),
                  u"By &Subject"_s);
-  beside->addWidget(charts);
+  return charts;
 }
 
 void frmStats::BuildButtons(QVBoxLayout* column) {

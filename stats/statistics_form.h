@@ -16,7 +16,8 @@ class ErrorBoundary;
 class Program;
 
 // The statistics of the current study mode as text, and beside it as charts where the option asks
-// for them. A snapshot of the moment it is made; making it raises the failures of the store.
+// for them. A snapshot of the moment it is made; making it raises the failures of the store. Never
+// larger at first than the screen; where the parts find no room they scroll.
 class frmStats : public QDialog {
   Q_OBJECT
 
@@ -27,7 +28,7 @@ public:
 
 private:
   void BuildReport();
-  void BuildCharts(QLayout* beside);
+  [[nodiscard]] QWidget* BuildCharts();
   void BuildButtons(QVBoxLayout* column);
   void cmdPrintStats_Click();
   void cmdResetStats_Click();

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -97,9 +99,9 @@ protected:
     QTest::mouseClick(Find<QToolBar>(u"Toolbar1"_s)->widgetForAction(action), Qt::LeftButton);
   }
   // To the control that has the focus.
-  static void Press(Qt::Key key) {
+  static void Press(Qt::Key key, Qt::KeyboardModifier modifier = Qt::ControlModifier) {
     ASSERT_NE(QApplication::focusWidget(), nullptr);
-    QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier);
+    QTest::keyClick(QApplication::focusWidget(), key, modifier);
   }
   // The name of the dialog that the act opens, which is closed at once.
   template <typename Act>
@@ -220,6 +222,50 @@ TEST_F(MainWindowTest, EndPutsTheAnswersAwayAndTheWindowBackToIdle) {
   EXPECT_FALSE(IsShown(u"txtAnswer"_s));
   EXPECT_EQ(bank.StatusRow(kTable, 1), u"C U P 1 1"_s);
   EXPECT_EQ(bank.SubjectRow(TestBank::SubjectName(5)), u"1 1 0 0"_s);
+}
+
+TEST_F(MainWindowTest, ASessionEndedAfterAnAnswerLeavesTheReadyPaneWhole) {
+  Open();
+  const QRect whole = Find(u"fraWelcome"_s)->geometry();
+  Trigger(u"mnuFileBegin"_s);
+  Click(u"cmdA"_s);
+  ASSERT_LT(Find(u"txtQuestion"_s)->height(), whole.height());
+  Trigger(u"mnuFileClose"_s);
+  ASSERT_TRUE(IsShown(u"fraWelcome"_s));
+  EXPECT_EQ(Find(u"fraWelcome"_s)->geometry(), whole);
+}
+
+TEST_F(MainWindowTest, AfterTheWizardsDefaultTheReadyPaneShowsTheSelectionAndTheStatusBarStays) {
+  Choose(u"Exam"_s, u"2"_s);
+  Choose(u"ExamString"_s, u"1999 Examination"_s);
+  Open();
+  const QString earlier = u"1999 Examination - Part I"_s;
+  auto* ready = Find<QLabel>(u"lblWelcomeSelection"_s);
+  ASSERT_EQ(ready->text(), earlier);
+  for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
+    boxes.answers = {answer};
+    QTimer::singleShot(0, &mainWindow, [] {
+      auto* wizard = QApplication::activeModalWidget();
+      ASSERT_NE(wizard, nullptr);
+      wizard->findChild<QPushButton*>(u"cmdDefaultMode"_s)->click();
+    });
+    Trigger(u"mnuViewExamChoices"_s);
+    EXPECT_EQ(ready->text(),
+              answer == BoxAnswer::Yes ? u"2001 Examination - Part I (Individual)"_s : earlier);
+    EXPECT_EQ(Panel(2), earlier);
+  }
+}
+
+TEST_F(MainWindowTest, AWizardThatIsCancelledLeavesTheReadyPaneAsItIs) {
+  Open();
+  auto* ready = Find<QLabel>(u"lblWelcomeSelection"_s);
+  const QString earlier = ready->text();
+  EXPECT_EQ(DialogOf([this] {
+              windowed.State().Selection.ExamString = u"1999 Examination"_s;
+              Trigger(u"mnuViewExamChoices"_s);
+            }),
+            u"frmStudyMode"_s);
+  EXPECT_EQ(ready->text(), earlier);
 }
 
 TEST_F(MainWindowTest, NextAfterTheLastQuestionSaysThatAllAreAnswered) {
@@ -350,6 +396,97 @@ TEST_F(MainWindowTest, TheShortcutOfACommandThatIsOffDoesNothing) {
   Press(Qt::Key_E);
   EXPECT_EQ(DialogOf([this] { QTest::keyClick(&mainWindow, Qt::Key_A, Qt::ControlModifier); }),
             u"frmStats"_s);
+}
+
+TEST_F(MainWindowTest, AltAAnswersAWhereverTheFocusIs) {
+  for (const QString& name : {u"txtQuestion"_s, u"txtHintLink"_s, u"txtRightWrong"_s, u"cmdC"_s}) {
+    bank.RunOnAnswers(u"UPDATE \"01Part1\" SET TutorialMode = 'C' WHERE QuestionNo < 30"_s);
+    bank.RunOnAnswers(u"UPDATE \"01Part1\" SET TutorialMode = 'U' WHERE QuestionNo = 30"_s);
+    if (!mainWindow.isVisible()) {
+      Open();
+    }
+    Trigger(u"mnuFileBegin"_s);
+    ASSERT_EQ(Pane(u"txtQuestion"_s), u"Question 30"_s);
+    Find(name)->setFocus();
+    ASSERT_TRUE(HasFocus(name)) << name.toStdString();
+    Press(Qt::Key_A, Qt::AltModifier);
+    EXPECT_TRUE(Line(u"txtRightWrong"_s).startsWith(u"     Nice Job!  'A' is the correct"_s))
+        << name.toStdString();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    Trigger(u"mnuFileClose"_s);
+  }
+}
+
+// A key that is held down must neither answer the next question nor open the menu.
+TEST_F(MainWindowTest, AltAHeldDownAnswersOnce) {
+  bank.RunOnAnswers(u"UPDATE \"01Part1\" SET TutorialMode = 'C' WHERE QuestionNo < 30"_s);
+  OpenAndBegin();
+  Press(Qt::Key_A, Qt::AltModifier);
+  ASSERT_TRUE(IsShown(u"txtAnswer"_s));
+  QKeyEvent held(QEvent::ShortcutOverride, Qt::Key_A, Qt::AltModifier, u"a"_s, true);
+  held.ignore();
+  QApplication::sendEvent(&mainWindow, &held);
+  EXPECT_TRUE(held.isAccepted());
+}
+
+TEST_F(MainWindowTest, AltAOpensTheStatisticsMenuWhileNoButtonAIsThere) {
+  const auto opensTheMenu = [this] {
+    QTest::keyClick(
+        QApplication::focusWidget() != nullptr ? QApplication::focusWidget() : &mainWindow,
+        Qt::Key_A, Qt::AltModifier);
+    QWidget* menu = QApplication::activePopupWidget();
+    const bool opened = menu != nullptr && menu->objectName() == u"mnuStats"_s;
+    if (menu != nullptr) {
+      menu->close();
+    }
+    return opened;
+  };
+  Open();
+  EXPECT_TRUE(opensTheMenu());
+  Trigger(u"mnuFileBegin"_s);
+  ASSERT_EQ(Find<QPushButton>(u"cmdA"_s)->text(), u"&True"_s);
+  EXPECT_TRUE(opensTheMenu());
+  EXPECT_FALSE(windowed.State().Answered);
+}
+
+TEST_F(MainWindowTest, TheResearchReferenceHasItsWholeTextAsToolTipAndShowsItsBeginning) {
+  OpenAndBegin();
+  auto* hint = Find<QLineEdit>(u"txtHintLink"_s);
+  EXPECT_EQ(hint->toolTip(), u"Publication 1"_s);
+  hint->setFocus(Qt::TabFocusReason);
+  ASSERT_NE(hint->cursorPosition(), 0);
+  Find(u"txtQuestion"_s)->setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(hint->cursorPosition(), 0);
+  mainWindow.SetBoxText(Box::txtHintLink, u"Circular <b>230</b>"_s);
+  EXPECT_TRUE(hint->toolTip().contains(u"Circular &lt;b&gt;230&lt;/b&gt;"_s))
+      << hint->toolTip().toStdString();
+}
+
+TEST_F(MainWindowTest, StartedMaximizedItGoesBackToTheLastNormalPlace) {
+  for (const auto& [key, value] :
+       {std::pair{u"MainLeft"_s, u"300"_s}, std::pair{u"MainTop"_s, u"450"_s},
+        std::pair{u"MainWidth"_s, u"9000"_s}, std::pair{u"MainHeight"_s, u"6000"_s},
+        std::pair{u"Maximized"_s, u"1"_s}}) {
+    settings.values[u"Settings/"_s + key] = value;
+  }
+  Open();
+  ASSERT_TRUE(mainWindow.isMaximized());
+  mainWindow.showNormal();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return mainWindow.size() == QSize(600, 400); }))
+      << mainWindow.width() << 'x' << mainWindow.height();
+  EXPECT_EQ(mainWindow.pos(), QPoint(20, 30));
+  EXPECT_EQ(RunUntilClosed([this] { mainWindow.close(); }), 0);
+  EXPECT_EQ(settings.values.value(u"Settings/MainWidth"_s), u"9000"_s);
+  EXPECT_EQ(settings.values.value(u"Settings/Maximized"_s), u"0"_s);
+}
+
+TEST_F(MainWindowTest, APlaceOnAScreenThatIsGoneIsMovedIntoTheOneThereIs) {
+  settings.values[u"Settings/MainLeft"_s] = u"45000"_s;
+  settings.values[u"Settings/MainTop"_s] = u"-30000"_s;
+  Open();
+  const QRect area = mainWindow.screen()->availableGeometry();
+  EXPECT_TRUE(area.contains(QRect(mainWindow.pos(), mainWindow.size())));
+  EXPECT_EQ(mainWindow.size(), QSize(767, 467));
 }
 
 TEST_F(MainWindowTest, ClosingItSavesItsPlaceAndEndsTheProgram) {

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QTest>
 #include <QTimer>
 
 #include "app/main_window.h"
@@ -78,6 +79,24 @@ TEST_F(OutsideCommandsTest, AnUpdateIsStartedOnlyAfterItsNoticeWasShownAndCloses
   EXPECT_EQ(shown, u"Updater"_s);
   EXPECT_EQ(desktop.asked, QStringList{bank.Folder() + u"/wiseupdt.exe"_s});
   EXPECT_FALSE(mainWindow.isVisible());
+}
+
+TEST_F(OutsideCommandsTest, WhileTheUpdatersNoticeIsShownNothingElseCanBeUsed) {
+  desktop.works = false;
+  clock.whenWaiting = [&] {
+    auto* notice = mainWindow.findChild<frmLoadUpdater*>();
+    ASSERT_NE(notice, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(notice));
+    EXPECT_EQ(QApplication::activeModalWidget(), notice);
+    EXPECT_EQ(notice->windowModality(), Qt::ApplicationModal);
+    QTest::keyClick(notice, Qt::Key_B, Qt::ControlModifier);
+    EXPECT_FALSE(windowed.Session().IsRunning());
+    QTest::keyClick(notice, Qt::Key_Escape);
+    EXPECT_FALSE(notice->close());
+    EXPECT_TRUE(notice->isVisible());
+  };
+  Trigger(u"mnuUpdates"_s);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(OutsideCommandsTest, WithoutAnUpdaterTheMessageComesWhileTheNoticeIsThereAndTheWindowStays) {

@@ -27,6 +27,13 @@ TEST(PaneLayoutTest, AnAnsweredQuestionSharesTheHeightWithItsExplanation) {
   EXPECT_EQ(layout.answer, (TwipsRect{1200, 3040, 9900, 2500}));
 }
 
+TEST(PaneLayoutTest, WhatStandsThereWithoutAQuestionIsWholeWhateverWasAnswered) {
+  for (const bool answered : {false, true}) {
+    EXPECT_EQ(ArrangePanes(11500, 6540, kToolbar, answered, false).welcome,
+              (TwipsRect{1200, 540, 9900, 5000}));
+  }
+}
+
 TEST(PaneLayoutTest, ButtonsStandAboveTheLowerEdge) {
   const PaneLayout layout = ArrangePanes(11500, 6540, kToolbar, false, false);
   EXPECT_EQ(layout.answerButtons[0], (TwipsRect{1560, 5680, 1200, 375}));

@@ -135,7 +135,20 @@ TEST_F(ProgramSettingsTest, ClosingMaximizedKeepsTheLastNormalPlacement) {
   program.Settings().SaveWindowPlacement({true, 0, 0, 30000, 20000});
   EXPECT_EQ(settings.writes, QStringList{u"Settings/Maximized=1"_s});
   EXPECT_EQ(settings.values[u"Settings/MainWidth"_s], u"9000"_s);
-  EXPECT_TRUE(program.Settings().LoadWindowPlacement().Maximized);
+  const WindowPlacement placement = program.Settings().LoadWindowPlacement();
+  EXPECT_TRUE(placement.Maximized);
+  EXPECT_EQ(placement.MainLeft, 100);
+  EXPECT_EQ(placement.MainTop, 200);
+  EXPECT_EQ(placement.MainWidth, 9000);
+  EXPECT_EQ(placement.MainHeight, 7000);
+}
+
+TEST_F(ProgramSettingsTest, APlaceThatIsNoNumberIsATypeMismatchUnlessTheWindowIsMaximized) {
+  settings.values[u"Settings/MainLeft"_s] = u"left"_s;
+  EXPECT_RUNTIME_ERROR(static_cast<void>(program.Settings().LoadWindowPlacement()),
+                       ErrorNumber::TypeMismatch);
+  settings.values[u"Settings/Maximized"_s] = u"1"_s;
+  EXPECT_EQ(program.Settings().LoadWindowPlacement().MainLeft, 1000);
 }
 
 }  // namespace

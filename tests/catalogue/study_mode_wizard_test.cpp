@@ -159,6 +159,7 @@ TEST_F(StudyModeWizardTest, DefaultClosesTheDialogOnYesAndOnNo) {
     Open();
     Click(u"cmdDefaultMode"_s);
     EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(form->result() == QDialog::Accepted, answer == BoxAnswer::Yes);
     EXPECT_EQ(settings.writes.size(), answer == BoxAnswer::Yes ? 10 : 0);
   }
   EXPECT_EQ(PanelText(Panel::Selection), u"2001 Examination - Part I"_s);

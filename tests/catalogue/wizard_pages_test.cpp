@@ -233,7 +233,7 @@ TEST_F(WizardPagesTest, AFinishThatFailsLeavesTheWizardOnItsLastPage) {
 TEST_F(WizardPagesTest, DefaultAsksAndWritesTheDefaultsWithoutShowingThem) {
   bank.RunOnAnswers(u"UPDATE SubjectStats SET TMAsked = 4, EMAsked = 2"_s);
   Choose(kEvaluationMode);
-  wizard.Default();
+  EXPECT_TRUE(wizard.Default());
   EXPECT_EQ(boxes.shown, QStringList{u"Tessaly Study Mode|Reset Study Mode to default values?"_s});
   EXPECT_EQ(boxes.lastIcon, BoxIcon::Question);
   EXPECT_EQ(
@@ -251,7 +251,7 @@ TEST_F(WizardPagesTest, DefaultAsksAndWritesTheDefaultsWithoutShowingThem) {
 TEST_F(WizardPagesTest, DefaultAnsweredNoChangesNothing) {
   Selection().Exam = 4;
   boxes.answers = {BoxAnswer::No};
-  wizard.Default();
+  EXPECT_FALSE(wizard.Default());
   EXPECT_EQ(Selection().Exam, 4);
   EXPECT_TRUE(settings.writes.isEmpty());
 }

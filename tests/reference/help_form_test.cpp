@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
@@ -41,6 +42,13 @@ TEST_F(HelpFormTest, ItOpensOnTheDefaultPageWithItsPlaceMarkedInTheContents) {
   EXPECT_EQ(Page().source().path(), u"welcome.html"_s);
   EXPECT_TRUE(Page().toPlainText().contains(u"Tessaly"_s));
   EXPECT_EQ(Find<QTreeWidget>(u"treContents"_s).currentItem()->text(0), u"Welcome to Tessaly"_s);
+}
+
+TEST_F(HelpFormTest, ASmallScreenHasRoomForItsFrameToo) {
+  const QSize room = form.screen()->availableSize();
+  ASSERT_LE(room.width(), 1140);
+  EXPECT_EQ(form.width(), qRound(room.width() * 0.9));
+  EXPECT_LE(form.height(), qRound(room.height() * 0.9));
 }
 
 TEST_F(HelpFormTest, TheArrowKeysGoThroughTheContents) {

@@ -130,14 +130,43 @@ TEST_F(HintFormTest, TheNextQuestionShowsItsHintInTheSameDialog) {
   Research();
   const QPointer<frmHint> first = Form();
   windowed.Session().GradeAnswer(0);
+  EXPECT_EQ(Hint(), u"Publication 501"_s);
   windowed.Session().NextQuestion();
   EXPECT_TRUE(MenuItem()->isEnabled());
-  EXPECT_EQ(Hint(), u"Publication 501"_s);
+  EXPECT_EQ(Hint(), u"Circular <b>230</b>"_s);
   Research();
   EXPECT_EQ(Form(), first);
   EXPECT_EQ(mainWindow.findChildren<frmHint*>().size(), 1);
   EXPECT_EQ(Hint(), u"Circular <b>230</b>"_s);
   EXPECT_FALSE(MenuItem()->isEnabled());
+}
+
+TEST_F(HintFormTest, AfterASkipTheOpenDialogShowsAndOpensTheNewQuestionsHint) {
+  windowed.Session().EndSession();
+  AddQuestion(3, u"Publication 17"_s, u"p17.html"_s);
+  windowed.Session().BeginSession();
+  Research();
+  windowed.Session().Skip();
+  EXPECT_EQ(Hint(), u"Circular <b>230</b>"_s);
+  windowed.Session().Skip();
+  EXPECT_EQ(Hint(), u"Publication 17"_s);
+  EXPECT_FALSE(MenuItem()->isEnabled());
+  QTest::mouseClick(Find<QAbstractButton>(u"cmdView"_s), Qt::LeftButton);
+  EXPECT_EQ(browserWindow.address, QUrl::fromLocalFile(bank.Folder() + u"/pubs/p17.html"_s));
+}
+
+TEST_F(HintFormTest, AQuestionWithoutAHintSaysSoInTheOpenDialogToo) {
+  windowed.Session().EndSession();
+  AddQuestion(3, {}, u"p17.html"_s);
+  windowed.Session().BeginSession();
+  Research();
+  windowed.Session().Skip();
+  windowed.Session().Skip();
+  EXPECT_EQ(Hint(), mainWindow.BoxText(Box::txtHintLink));
+  EXPECT_TRUE(Hint().startsWith(u"The research link for this question is not available"_s));
+  mainWindow.SetBoxText(Box::txtHintLink, {});
+  EXPECT_EQ(Hint(),
+            u"The research link for this question is not available in this database release"_s);
 }
 
 TEST_F(HintFormTest, WithoutABrowserTheDialogClosesAndTheUserIsTold) {

@@ -106,9 +106,7 @@ void frmBackup::ListDrives() {
   }
   for (const Drive& drive : program_.Machine().drives.Removable()) {
     if (drives_->findData(drive.Path) < 0) {
-      constexpr int kLabelWidth = 190;
-      drives_->addItem(fontMetrics().elidedText(drive.Label, Qt::ElideMiddle, kLabelWidth),
-                       drive.Path);
+      drives_->addItem(drive.Label, drive.Path);
       drives_->setItemData(drives_->count() - 1, drive.Path, Qt::ToolTipRole);
     }
   }

@@ -64,18 +64,6 @@ TEST_F(BackupFormTest, TheSelectedDriveFollowsTheList) {
   EXPECT_EQ(NamesIn(stick.path()), QStringList());
 }
 
-TEST_F(BackupFormTest, ALongNameIsShortenedInTheMiddle) {
-  const QTemporaryDir other;
-  const QString name = QString(80, u'n');
-  Insert(name, other.path());
-  Open();
-  const QString shown = List()->itemText(1);
-  EXPECT_LT(shown.size(), name.size());
-  EXPECT_TRUE(shown.startsWith(u'n'));
-  EXPECT_TRUE(shown.endsWith(u'n'));
-  EXPECT_LE(form->fontMetrics().horizontalAdvance(shown), List()->width());
-}
-
 TEST_F(BackupFormTest, EscapeAndCancelCloseItAndChangeNothing) {
   Open();
   Press(Qt::Key_Escape);

@@ -15,6 +15,7 @@
 
 #include "tests/end_to_end/browser_driver.h"
 #include "tests/end_to_end/program_driver.h"
+#include "tests/support/file_contents.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,7 @@ namespace {
 using tessaly::test::BrowserDriver;
 using tessaly::test::Installation;
 using tessaly::test::ProgramDriver;
+using tessaly::test::WriteBytes;
 
 constexpr int kPaintMilliseconds = 1000;
 
@@ -91,6 +93,16 @@ void PhotographReferences(ProgramDriver& program, Photographer& photographer,
   program.Press(u"Ctrl+E"_s);
 }
 
+// The platform's own is of 800 by 800 pixels, where the larger windows are smaller than people see
+// them.
+void UseCommonScreen(Installation& installation) {
+  const QString description = installation.WorkingFolder() + u"/screen.json"_s;
+  WriteBytes(description,
+             R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1280, "height": 1024,
+                 "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  installation.SetVariable(u"QT_QPA_PLATFORM"_s, u"offscreen:configfile="_s + description);
+}
+
 struct Dialog {
   QString command;
   QString window;
@@ -132,6 +144,7 @@ int main(int argc, char* argv[]) {
     installation.Store(u"Options/GraphicStats"_s, u"1"_s);
     installation.Store(u"Options/PubSource"_s, u"1"_s);
     installation.SetVariable(u"QT_SCALE_FACTOR"_s, qEnvironmentVariable("QT_SCALE_FACTOR", u"1"_s));
+    UseCommonScreen(installation);
     ProgramDriver program(installation);
     program.StartToMainWindow();
     Photographer photographer(program, QDir(QDir(arguments[2]).absolutePath()));

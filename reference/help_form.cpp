@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "app/first_size.h"
 #include "reference/help_page.h"
 
 using namespace Qt::StringLiterals;
@@ -21,8 +22,6 @@ namespace {
 
 // Wide enough for the book's pictures.
 constexpr QSize kFirstSize(1140, 740);
-// The window's frame needs room as well.
-constexpr double kPartOfScreen = 0.9;
 constexpr int kFindersWidth = 290;
 constexpr int kPageRole = Qt::UserRole;
 
@@ -78,7 +77,7 @@ frmHelp::frmHelp(const QString& path, QWidget* parent) : QDialog(parent), book_(
   halves->setChildrenCollapsible(false);
   auto* row = new QHBoxLayout(this);
   row->addWidget(halves);
-  resize(kFirstSize.boundedTo(screen()->availableSize() * kPartOfScreen));
+  resize(FirstSizeOn(*screen(), kFirstSize));
   ShowPage(book_.DefaultPage());
   contents_->setFocus();
 }

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "app/error_boundary.h"
+#include "app/first_size.h"
 #include "app/program.h"
 #include "stats/reset_form.h"
 #include "stats/score_chart.h"
@@ -27,8 +28,6 @@ constexpr int kVisibleRows = 24;
 constexpr int kChartWidth = 380;
 constexpr QSize kSmallestList(200, 100);
 constexpr int kSmallestChartWidth = 240;
-// The window's frame and what a desktop shows beside it need the rest.
-constexpr double kPartOfScreen = 0.9;
 
 // Shows every column and some two dozen rows where there is room, and scrolls where there is none.
 class ReportList : public QListWidget {
@@ -99,8 +98,7 @@ frmStats::frmStats(Program& program, ErrorBoundary& errors, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->addWidget(frame, 1);
   BuildButtons(column);
-  const QSize room = (parent != nullptr ? parent : this)->screen()->availableSize() * kPartOfScreen;
-  resize(sizeHint().boundedTo(room));
+  resize(FirstSizeOn(*(parent != nullptr ? parent : this)->screen(), sizeHint()));
 }
 
 void frmStats::BuildReport() {

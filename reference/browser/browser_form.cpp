@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "app/elided_label.h"
+#include "app/first_size.h"
 #include "app/twips.h"
 #include "reference/browser/command_channel.h"
 #include "reference/browser/find_bar.h"
@@ -31,7 +32,6 @@ constexpr int kPollMilliseconds = 100;
 constexpr int kPatienceMilliseconds = 20'000;
 constexpr QSize kFirstSize(960, 760);
 constexpr QSize kSmallestSize(480, 320);
-constexpr double kPartOfScreen = 0.9;
 constexpr double kZoomStep = 1.1;
 
 // Every other failure has an error, and a page that shows it.
@@ -178,8 +178,7 @@ void frmBrowser::AddShortcuts() {
 
 void frmBrowser::ChooseSize() {
   setMinimumSize(kSmallestSize);
-  const QSize room = screen()->availableSize() * kPartOfScreen;
-  resize(kFirstSize.boundedTo(room));
+  resize(FirstSizeOn(*screen(), kFirstSize));
 }
 
 void frmBrowser::Obey(const QStringList& command) {

@@ -12,6 +12,14 @@ namespace {
 class ProgramSettingsTest : public ProgramTest {
 protected:
   void Load() { program.Settings().LoadSettings(); }
+  // In twips.
+  static void ExpectPlace(const WindowPlacement& placement, float left, float top, float width,
+                          float height) {
+    EXPECT_EQ(placement.MainLeft, left);
+    EXPECT_EQ(placement.MainTop, top);
+    EXPECT_EQ(placement.MainWidth, width);
+    EXPECT_EQ(placement.MainHeight, height);
+  }
 };
 
 TEST_F(ProgramSettingsTest, AFirstStartReadsTheDefaultsAndWritesNothing) {
@@ -112,10 +120,7 @@ TEST_F(ProgramSettingsTest, AByteOutOfRangeOverflows) {
 TEST_F(ProgramSettingsTest, TheFirstPlacementIsTheDefaultOne) {
   const WindowPlacement placement = program.Settings().LoadWindowPlacement();
   EXPECT_FALSE(placement.Maximized);
-  EXPECT_EQ(placement.MainLeft, 1000);
-  EXPECT_EQ(placement.MainTop, 1000);
-  EXPECT_EQ(placement.MainWidth, 11500);
-  EXPECT_EQ(placement.MainHeight, 7000);
+  ExpectPlace(placement, 1000, 1000, 11500, 7000);
 }
 
 TEST_F(ProgramSettingsTest, APlacementComesBackAsItWasSaved) {
@@ -137,10 +142,7 @@ TEST_F(ProgramSettingsTest, ClosingMaximizedKeepsTheLastNormalPlacement) {
   EXPECT_EQ(settings.values[u"Settings/MainWidth"_s], u"9000"_s);
   const WindowPlacement placement = program.Settings().LoadWindowPlacement();
   EXPECT_TRUE(placement.Maximized);
-  EXPECT_EQ(placement.MainLeft, 100);
-  EXPECT_EQ(placement.MainTop, 200);
-  EXPECT_EQ(placement.MainWidth, 9000);
-  EXPECT_EQ(placement.MainHeight, 7000);
+  ExpectPlace(placement, 100, 200, 9000, 7000);
 }
 
 TEST_F(ProgramSettingsTest, APlaceThatIsNoNumberIsATypeMismatchUnlessTheWindowIsMaximized) {

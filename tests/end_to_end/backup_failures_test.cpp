@@ -66,6 +66,15 @@ protected:
     EXPECT_FALSE(QFile::exists(Answers() + u".new"_s));
     EXPECT_FALSE(QFile::exists(OnDrive() + u".new"_s));
   }
+  void ExpectBothWork() {
+    Choose(kBackup);
+    ExpectClosed();
+    ExpectFiles(newer, newer);
+    WriteBytes(OnDrive(), older);
+    Choose(kRestore);
+    ExpectClosed();
+    ExpectFiles(older, older);
+  }
   // A backup and a restore of it, and a session.
   void ExpectUsable() {
     Choose(kBackup);
@@ -93,13 +102,7 @@ protected:
 
 TEST_F(DriveTest, AMountedDriveTakesABackupAndGivesItBack) {
   program.StartToMainWindow();
-  Choose(kBackup);
-  ExpectClosed();
-  ExpectFiles(newer, newer);
-  WriteBytes(OnDrive(), older);
-  Choose(kRestore);
-  ExpectClosed();
-  ExpectFiles(older, older);
+  ExpectBothWork();
   EXPECT_FALSE(QFile::exists(installation.Folder() + u"/tessaly02s.ini"_s));
 }
 
@@ -220,15 +223,6 @@ protected:
     // The next backup would otherwise restore.
     OpenBackupDialog(program, kBackup, drive.Folder());
     program.Click(u"CancelButton"_s);
-  }
-  void ExpectBothWork() {
-    Choose(kBackup);
-    ExpectClosed();
-    ExpectFiles(newer, newer);
-    WriteBytes(OnDrive(), older);
-    Choose(kRestore);
-    ExpectClosed();
-    ExpectFiles(older, older);
   }
 };
 

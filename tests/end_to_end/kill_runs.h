@@ -1,6 +1,8 @@
 #ifndef TESSALY_TESTS_END_TO_END_KILL_RUNS_H_
 #define TESSALY_TESTS_END_TO_END_KILL_RUNS_H_
 
+#include <cstdio>
+#include <exception>
 #include <functional>
 #include <random>
 #include <string>
@@ -27,6 +29,27 @@ struct FoundFiles {
 
 // Looks at copies, journals included, so that the program itself meets what the kill has left.
 [[nodiscard]] FoundFiles LookAtFiles(const BankPaths& paths);
+
+// Kills as often as asked for, by `kill`, which is told how often it was before. Prints the figures
+// and returns the exit code: 0 when every kill was made and nothing was lost. An exception ends the
+// kills and counts as a failed start.
+template <typename Kills>
+int KillAndReport(Kills& kills, int runs, const std::function<void(int)>& kill) {
+  auto figures = kills.Result();
+  try {
+    for (int i = 0; i < runs; ++i) {
+      kill(i);
+    }
+    kills.Finish();
+    figures = kills.Result();
+  } catch (const std::exception& error) {
+    figures = kills.Result();
+    ++figures.failedStarts;
+    std::fprintf(stderr, "kill %d: %s\n", figures.runs, error.what());
+  }
+  figures.Print();
+  return figures.Lossless() && figures.runs == runs ? 0 : 1;
+}
 
 }  // namespace tessaly::test
 

@@ -294,18 +294,5 @@ int main(int argc, char* argv[]) {
   const QStringList arguments = QCoreApplication::arguments();
   const int runs = arguments.value(1).toInt();
   tessaly::test::KilledSessions sessions(arguments.value(2).toUInt());
-  tessaly::test::Figures figures;
-  try {
-    for (int i = 0; i < runs; ++i) {
-      sessions.Run();
-    }
-    sessions.Finish();
-    figures = sessions.Result();
-  } catch (const std::exception& error) {
-    figures = sessions.Result();
-    ++figures.failedStarts;
-    std::fprintf(stderr, "run %d: %s\n", figures.runs, error.what());
-  }
-  figures.Print();
-  return figures.Lossless() && figures.runs == runs ? 0 : 1;
+  return tessaly::test::KillAndReport(sessions, runs, [&](int) { sessions.Run(); });
 }

@@ -337,18 +337,6 @@ int main(int argc, char* argv[]) {
     std::fprintf(stderr, "only root can mount a drive\n");
     return kExitSkipped;
   }
-  tessaly::test::Figures figures;
-  try {
-    for (int i = 0; i < runs; ++i) {
-      statistics.Run(commands[i % commands.size()]);
-    }
-    statistics.Finish();
-    figures = statistics.Result();
-  } catch (const std::exception& error) {
-    figures = statistics.Result();
-    ++figures.failedStarts;
-    std::fprintf(stderr, "kill %d: %s\n", figures.runs, error.what());
-  }
-  figures.Print();
-  return figures.Lossless() && figures.runs == runs ? 0 : 1;
+  return tessaly::test::KillAndReport(
+      statistics, runs, [&](int i) { statistics.Run(commands[i % commands.size()]); });
 }

@@ -145,5 +145,12 @@ TEST_F(PagesTest, TheGlossaryHasItsTermsInAlphabeticalOrder) {
   }
 }
 
+TEST_F(PagesTest, ThereIsAnotherTipForEachDayOfTwoMonths) {
+  const QStringList tips =
+      QString::fromUtf8(ReadBytes(kData.filePath(u"TIPOFDAY.TXT"_s))).trimmed().split(u'\n');
+  EXPECT_GE(QSet<QString>(tips.begin(), tips.end()).size(), 60);
+  EXPECT_FALSE(tips.contains(QString()));
+}
+
 }  // namespace
 }  // namespace tessaly::test
